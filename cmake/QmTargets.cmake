@@ -1,0 +1,47 @@
+# The few commands with which every folder of the project declares what it builds.
+
+if(WIN32)
+  enable_language(RC)
+endif()
+
+add_library(qm_settings INTERFACE)
+target_compile_features(qm_settings INTERFACE cxx_std_20)
+target_include_directories(qm_settings INTERFACE "${CMAKE_SOURCE_DIR}/src")
+target_compile_options(qm_settings INTERFACE -Wall -Wextra -Wconversion -Wno-unknown-pragmas)
+if(WIN32)
+  target_compile_definitions(qm_settings INTERFACE UNICODE _UNICODE NOMINMAX WIN32_LEAN_AND_MEAN
+                                                   _WIN32_WINNT=0x0A00)
+  target_link_options(qm_settings INTERFACE -static)
+endif()
+if(QM_SANITIZE)
+  target_compile_options(qm_settings INTERFACE -fsanitize=address,undefined -fno-sanitize-recover=all
+                                               -fno-omit-frame-pointer)
+  target_link_options(qm_settings INTERFACE -fsanitize=address,undefined)
+endif()
+
+# qm_library(NAME SOURCES file... [DEPENDS target...])
+# A static library of one source folder.
+function(qm_library name)
+  cmake_parse_arguments(arg "" "" "SOURCES;DEPENDS" ${ARGN})
+  add_library(${name} STATIC ${arg_SOURCES})
+  target_link_libraries(${name} PUBLIC qm_settings ${arg_DEPENDS})
+endfunction()
+
+# qm_test(NAME SOURCES file... [DEPENDS target...] [TIMEOUT seconds] [ARGS argument...])
+# A GoogleTest program; it runs natively or, in a Windows build, through scripts/wine-run.sh, and
+# leaves its results as build/<preset>/results/NAME.xml. It runs with QM_SOURCE_DIR as a definition.
+function(qm_test name)
+  cmake_parse_arguments(arg "" "TIMEOUT" "SOURCES;DEPENDS;ARGS" ${ARGN})
+  if(NOT arg_TIMEOUT)
+    set(arg_TIMEOUT 120)
+  endif()
+  find_package(GTest REQUIRED)
+  add_executable(${name} ${arg_SOURCES})
+  target_link_libraries(${name} PRIVATE qm_settings ${arg_DEPENDS} GTest::gmock_main)
+  target_include_directories(${name} PRIVATE "${CMAKE_SOURCE_DIR}")
+  target_compile_definitions(${name} PRIVATE QM_SOURCE_DIR="${CMAKE_SOURCE_DIR}"
+                                             QM_BINARY_DIR="${CMAKE_BINARY_DIR}")
+  add_test(NAME ${name} COMMAND ${name} --gtest_brief=1
+                                "--gtest_output=xml:${CMAKE_BINARY_DIR}/results/${name}.xml" ${arg_ARGS})
+  set_tests_properties(${name} PROPERTIES TIMEOUT ${arg_TIMEOUT})
+endfunction()
