@@ -2,6 +2,10 @@
 
 if(WIN32)
   enable_language(RC)
+  set(ZLIB_USE_STATIC_LIBS ON)
+  # Programs and DLLs stand side by side at the top of the build tree.
+  set(CMAKE_RUNTIME_OUTPUT_DIRECTORY "${CMAKE_BINARY_DIR}")
+  set(CMAKE_SHARED_LIBRARY_PREFIX "")
 endif()
 
 add_library(qm_settings INTERFACE)

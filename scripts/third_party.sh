@@ -6,7 +6,7 @@ set -euo pipefail
 root=$(cd "$(dirname "$0")/.." && pwd)
 recipe=$root/cmake/third-party
 cache=${QM_CACHE:-${XDG_CACHE_HOME:-$HOME/.cache}/qmmodimp3}
-hash=$(cat "$recipe/pins.txt" "$recipe/CMakeLists.txt" "$root"/cmake/toolchain-win*.cmake | sha256sum | cut -c1-16)
+hash=$(cat "$recipe/pins.txt" "$recipe/CMakeLists.txt" | sha256sum | cut -c1-16)
 set_dir=$cache/third-party/$hash
 sources=$cache/sources
 
