@@ -1,0 +1,26 @@
+#pragma once
+// Files by full path, as bytes.
+// Errors: the runtime's numbers: 53 file not found, 61 disk full, 70 permission denied or locked, 75 path or
+//         file access, 76 path not found.
+// Implemented by win32/files and the tests' MemoryFiles.
+
+#include <optional>
+#include <string>
+#include <string_view>
+
+namespace qm::platform {
+
+class Files {
+ public:
+  virtual ~Files() = default;
+
+  [[nodiscard]] virtual bool Exists(std::u16string_view path) = 0;  // a file, not a folder
+  // Nothing when there is no such file.
+  [[nodiscard]] virtual std::optional<std::string> Read(std::u16string_view path) = 0;
+  // Writes beside the file, flushes and swaps: at any moment the file is the old or the new one, whole.
+  virtual void Replace(std::u16string_view path, std::string_view bytes) = 0;
+  // The user's folder for scratch files, with its final backslash.
+  [[nodiscard]] virtual std::u16string ScratchFolder() = 0;
+};
+
+}  // namespace qm::platform

@@ -1,0 +1,34 @@
+#pragma once
+// Pictures from files, scaled copies, and the clipboard as a place for one.
+// Units:  pixels where a name says so; a picture's own size is twips at 15 twips per pixel.
+// Errors: RuntimeError 481 for a file that is no picture, 7 for one too large for memory, 57 for a clipboard
+//         that cannot be opened.
+// Implemented by win32/pictures and the tests' FakePictures.
+
+#include <memory>
+#include <string_view>
+
+namespace qm::platform {
+
+class Picture {
+ public:
+  virtual ~Picture() = default;
+
+  [[nodiscard]] virtual int WidthPixels() const = 0;
+  [[nodiscard]] virtual int HeightPixels() const = 0;
+};
+
+class Pictures {
+ public:
+  virtual ~Pictures() = default;
+
+  // BMP, GIF, JPEG and the other formats of the system's picture loader.
+  [[nodiscard]] virtual std::unique_ptr<Picture> Load(std::u16string_view path) = 0;
+  [[nodiscard]] virtual std::unique_ptr<Picture> Scaled(const Picture& picture, int widthPixels,
+                                                        int heightPixels) = 0;
+  // Empties the clipboard and leaves the picture there as a bitmap.
+  virtual void PutOnClipboard(const Picture& picture) = 0;
+  [[nodiscard]] virtual std::unique_ptr<Picture> TakeFromClipboard() = 0;
+};
+
+}  // namespace qm::platform

@@ -1,0 +1,45 @@
+#pragma once
+// The installed printers, and a printer as a drawing surface.
+// Units:  twips.
+// Errors: RuntimeError 482 when a printer cannot be opened or fails.
+// Implemented by win32/printers and the tests' FakePrinters.
+
+#include <cstdint>
+#include <memory>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "platform/surface.h"
+
+namespace qm::platform {
+
+// The paper of a print job: the spooler's code where the form could be defined. With a code of 0 the printer
+// takes, in this order, its own paper of that name and size (within 1 mm), one of that size, or the width
+// and height as they are.
+struct Paper {
+  std::int16_t code = 0;
+  std::u16string formName;
+  double widthTwips = 0;
+  double heightTwips = 0;
+};
+
+// One print job at a time: the first text or picture starts the job, EndDoc sends it. A job that is not
+// ended is thrown away with the surface.
+class PrinterSurface : public Surface {
+ public:
+  [[nodiscard]] virtual std::u16string DeviceName() const = 0;
+  virtual void SetPaper(const Paper& paper) = 0;  // between jobs
+  virtual void EndDoc() = 0;
+};
+
+class Printers {
+ public:
+  virtual ~Printers() = default;
+
+  [[nodiscard]] virtual std::vector<std::u16string> DeviceNames() = 0;  // in the system's order
+  [[nodiscard]] virtual std::unique_ptr<PrinterSurface> Open(std::u16string_view deviceName) = 0;
+  [[nodiscard]] virtual std::unique_ptr<PrinterSurface> OpenDefault() = 0;
+};
+
+}  // namespace qm::platform
