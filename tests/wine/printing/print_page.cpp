@@ -1,10 +1,12 @@
 // print_page.cpp: prints one page with plain GDI calls, with nothing of the component in between, to show
 // what the prefix's printers do.
 //
-//   print_page PRINTER PAPER LEFT TOP TEXT     PAPER: a name of the printer's paper list, or "" for its default
+//   print_page PRINTER PAPER LEFT TOP TEXT     PAPER: a name of the printer's paper list, or "" for its
+//   default
 //
 // LEFT and TOP are twips from the printable area's corner. Prints "width height dpi" of that area (twips and
-// dots an inch) and the results of the four calls of a job; exits 0, or 3 when the end of the document failed.
+// dots an inch) and the results of the four calls of a job; exits 0, or 3 when the end of the document
+// failed.
 #include <windows.h>
 
 #include <winspool.h>
