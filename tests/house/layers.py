@@ -42,7 +42,7 @@ def folder_of(path):
 
 
 def includes(src, path):
-    with open(os.path.join(src, path), encoding="utf-8") as file:
+    with open(os.path.join(src, path), encoding="utf-8", errors="replace") as file:
         for number, line in enumerate(file, 1):
             match = INCLUDE.match(line)
             if match:

@@ -2,6 +2,7 @@
 # The project's files stand alone: they name no document that does not travel with them, no path of one
 # machine, no mirror's host.
 cd "$(dirname "$0")/../.." || exit 1
+export LC_ALL=C
 patterns=(
   '\b[P]art [0-9]+\.[0-9]+'
   '\b[Tt]he [s]pecification\b'
