@@ -21,6 +21,7 @@ for preset in native win64 win32; do
   counts=$(scripts/count_tests.py "$tree") || { cat "$tree/ctest.log"; exit 1; }
   read -r p f s <<<"$counts"
   echo "$preset: $p passed, $f failed, $s skipped ($((SECONDS - started)) s)"
+  [ $((p + f + s)) -gt 0 ] || { echo "$preset: ctest ran nothing"; cat "$tree/ctest.log"; exit 1; }
   passed=$((passed + p)) failed=$((failed + f)) skipped=$((skipped + s))
 done
 

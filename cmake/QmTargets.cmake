@@ -23,6 +23,7 @@ if(QM_SANITIZE)
   target_link_options(qm_settings INTERFACE -fsanitize=address,undefined)
 endif()
 if(QM_FUZZ)
+  file(REMOVE_RECURSE "${CMAKE_BINARY_DIR}/corpora")
   target_compile_options(qm_settings INTERFACE -fsanitize=fuzzer-no-link,address,undefined
                                                -fno-sanitize-recover=all -fno-omit-frame-pointer)
   target_link_options(qm_settings INTERFACE -fsanitize=address,undefined)
