@@ -1,6 +1,7 @@
 #pragma once
-// A print spooler with the forms of each printer in order. As the real one does, it appends new forms, refuses
-// a form of a name that is there, of a size that is none, and to delete the forms built into the system.
+// A print spooler with the forms of each printer in order. As the real one does, it appends new forms,
+// refuses a form of a name that is there, of a size that is none, and to delete the forms built into the
+// system.
 
 #include <cstdint>
 #include <map>
