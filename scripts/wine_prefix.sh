@@ -43,9 +43,7 @@ REGEDIT4
 "MS Shell Dlg"="Liberation Sans"
 "MS Shell Dlg 2"="Liberation Sans"
 REG
-  if [ "$graphics" = null ]; then
-    printf '\n[HKEY_CURRENT_USER\\Software\\Wine\\Drivers]\n"Graphics"="null"\n'
-  fi
+  printf '\n[HKEY_CURRENT_USER\\Software\\Wine\\Drivers]\n"Graphics"="%s"\n' "$graphics"
 }
 
 # The printers' spooler: takes a job from its standard input. Jobs sort by time.
