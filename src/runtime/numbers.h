@@ -3,6 +3,7 @@
 // is a RuntimeError: 13 where the text is not a number, 6 where the number does not fit.
 
 #include <cstdint>
+#include <optional>
 #include <string_view>
 
 #include "runtime/locale.h"
@@ -14,6 +15,8 @@ namespace qm::runtime {
 
 // The whole text as a number in the user's locale.
 [[nodiscard]] double CDbl(std::u16string_view text, const Locale& locale);
+// The same where failing is ordinary: nothing instead of an error.
+[[nodiscard]] std::optional<double> TryCDbl(std::u16string_view text, const Locale& locale);
 [[nodiscard]] std::int16_t CInt(std::u16string_view text, const Locale& locale);
 [[nodiscard]] std::int32_t CLng(std::u16string_view text, const Locale& locale);
 
