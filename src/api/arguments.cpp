@@ -66,12 +66,12 @@ LONG NumberIn(const VARIANT& value) { return value.vt == VT_I4 ? value.lVal : va
 
 void StoreThrough(const VARIANT& reference, const VARIANT& value) noexcept {
   if (reference.vt == (VT_BYREF | VT_VARIANT)) {
-    VariantCopy(reference.pvarVal, &value);
+    VariantCopy(reference.pvarVal, const_cast<VARIANT*>(&value));
     return;
   }
   VARIANT converted{};
   const auto type = static_cast<VARTYPE>(reference.vt & ~VT_BYREF);
-  if (FAILED(VariantChangeTypeEx(&converted, &value, GetUserDefaultLCID(), VARIANT_LOCALBOOL, type))) return;
+  if (FAILED(ChangeType(converted, value, type))) return;
   switch (type) {
     case VT_BSTR:
       SysFreeString(*reference.pbstrVal);

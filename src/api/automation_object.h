@@ -79,7 +79,7 @@ class AutomationObject : public Face,
   HRESULT STDMETHODCALLTYPE Invoke(DISPID id, REFIID reserved, LCID, WORD flags, DISPPARAMS* arguments,
                                    VARIANT* result, EXCEPINFO* exception, UINT* wrongArgument) noexcept override {
     if (!IsEqualGUID(reserved, IID_NULL)) return DISP_E_UNKNOWNINTERFACE;
-    const AliveDuringCall alive(*this);
+    const AliveDuringCall alive(*static_cast<Face*>(this));
     return InvokeMember(kFace, *this, id, flags, arguments, result, exception, wrongArgument);
   }
 
@@ -111,13 +111,11 @@ class AutomationObject : public Face,
 
   template <class Body>
   HRESULT Call(Body&& body) noexcept {
-    return ComCall(*this, kFace.id, std::forward<Body>(body));
+    return ComCall(*static_cast<Face*>(this), kFace.id, std::forward<Body>(body));
   }
 
  private:
   static constexpr LONG kDying = 0x40000000;
-
-  operator IUnknown&() noexcept { return *static_cast<Face*>(this); }
 
   void* Find(REFIID id) noexcept {
     if (IsEqualGUID(id, IID_IUnknown) || IsEqualGUID(id, IID_IDispatch) || IsEqualGUID(id, kFace.id)) {

@@ -30,7 +30,7 @@ void ThrowIfFailed(HRESULT result);
 [[noreturn]] void ThrowNotSupported();
 
 template <class T>
-[[nodiscard]] T& Required(T* pointer) {
+T& Required(T* pointer) {
   if (!pointer) throw runtime::RuntimeError(runtime::ErrorNumber::InvalidArgument);
   return *pointer;
 }

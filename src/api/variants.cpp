@@ -59,7 +59,7 @@ void Resolve(const VARIANT& source, OwnedVariant& plain) {
 
 void OwnedVariant::CopyFrom(const VARIANT& source) {
   if ((source.vt & VT_BYREF) && !source.byref) throw RuntimeError(ErrorNumber::InvalidArgument);
-  ThrowIfFailed(VariantCopyInd(&value_, &source));
+  ThrowIfFailed(VariantCopyInd(&value_, const_cast<VARIANT*>(&source)));
 }
 
 VARIANT OwnedVariant::Release() noexcept {
@@ -68,11 +68,14 @@ VARIANT OwnedVariant::Release() noexcept {
   return released;
 }
 
+HRESULT ChangeType(VARIANT& converted, const VARIANT& value, VARTYPE type) noexcept {
+  return VariantChangeTypeEx(&converted, const_cast<VARIANT*>(&value), GetUserDefaultLCID(), VARIANT_LOCALBOOL, type);
+}
+
 void Convert(const VARIANT& value, VARTYPE type, OwnedVariant& converted) {
   OwnedVariant plain;
   Resolve(value, plain);
-  ThrowIfFailed(
-      VariantChangeTypeEx(&converted.Get(), &plain.Get(), GetUserDefaultLCID(), VARIANT_LOCALBOOL, type));
+  ThrowIfFailed(ChangeType(converted.Get(), plain.Get(), type));
 }
 
 std::u16string TextOf(const VARIANT& value) {
@@ -92,7 +95,7 @@ data::ModelNumber ModelNumberOf(const VARIANT& value) {
   if (plain->vt == VT_EMPTY) return std::monostate{};
   if (plain->vt == VT_BSTR) return std::u16string(TextOf(plain->bstrVal));
   OwnedVariant number;
-  ThrowIfFailed(VariantChangeTypeEx(&number.Get(), &plain.Get(), GetUserDefaultLCID(), 0, VT_R8));
+  ThrowIfFailed(ChangeType(number.Get(), plain.Get(), VT_R8));
   return number->dblVal;
 }
 

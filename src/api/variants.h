@@ -31,6 +31,9 @@ class OwnedVariant {
   VARIANT value_;
 };
 
+// The automation library's conversion in the user's locale, with the locale's words for Booleans.
+[[nodiscard]] HRESULT ChangeType(VARIANT& converted, const VARIANT& value, VARTYPE type) noexcept;
+
 [[nodiscard]] std::u16string TextOf(const VARIANT& value);
 // The value as one of VT_BSTR, VT_I2, VT_I4 and VT_BOOL.
 void Convert(const VARIANT& value, VARTYPE type, OwnedVariant& converted);
