@@ -98,8 +98,8 @@ struct World {
   model::ModelFile modelFile;
   print::PaperFormState paperForms;
   data::PrintJob job;
-  print::Environment environment{files, printers,  spooler,    pictures,                   prompts,
-                                 clock, modelFile, paperForms, runtime::Locale::Spanish()};
+  print::Environment environment{
+      files, printers, spooler, pictures, prompts, clock, modelFile, paperForms, runtime::Locale::Spanish()};
 
   World() {
     modelFile.SetName(u"C:\\Modelos\\factura.xml");
