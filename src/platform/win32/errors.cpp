@@ -31,7 +31,6 @@ constexpr Translation kTranslations[] = {
     {ERROR_WRITE_PROTECT, ErrorNumber::PermissionDenied},
     {ERROR_DISK_FULL, ErrorNumber::DiskFull},
     {ERROR_HANDLE_DISK_FULL, ErrorNumber::DiskFull},
-    {ERROR_DISK_QUOTA_EXCEEDED, ErrorNumber::DiskFull},
     {ERROR_NOT_ENOUGH_MEMORY, ErrorNumber::OutOfMemory},
     {ERROR_OUTOFMEMORY, ErrorNumber::OutOfMemory},
     {ERROR_CRC, ErrorNumber::InputOutput},

@@ -35,6 +35,18 @@ std::optional<DWORD> AttributesOf(const std::u16string& systemPath) {
   return attributes;
 }
 
+// Refuses, before anything is written, what Windows would refuse at the swap, and also what it would allow:
+// a file that its user has protected.
+void CheckReplaceable(const std::u16string& path) {
+  const std::optional<DWORD> attributes = AttributesOf(path);
+  if (!attributes) return;
+  if (*attributes & (FILE_ATTRIBUTE_READONLY | FILE_ATTRIBUTE_DIRECTORY)) Throw(ErrorNumber::PathFileAccess);
+  const OwnedFile opened(CreateFileW(Wide(path), DELETE,
+                                     FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE, nullptr,
+                                     OPEN_EXISTING, 0, nullptr));
+  if (!opened) ThrowLastFileError();
+}
+
 // A file of our own beside another one; it goes when it has not taken the other's place.
 class FileBeside {
  public:
@@ -144,9 +156,7 @@ std::optional<std::string> Win32Files::Read(std::u16string_view path) {
 
 void Win32Files::Replace(std::u16string_view path, std::string_view bytes) {
   const std::u16string target = SystemPath(path);
-  // Asked beforehand, because the swap would succeed on a file that its user has protected.
-  constexpr DWORD kProtected = FILE_ATTRIBUTE_READONLY | FILE_ATTRIBUTE_DIRECTORY;
-  if (AttributesOf(target).value_or(0) & kProtected) Throw(ErrorNumber::PathFileAccess);
+  CheckReplaceable(target);
   FileBeside fresh(target);
   fresh.Write(bytes);
   fresh.TakeThePlaceOf(target);

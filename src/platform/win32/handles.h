@@ -1,12 +1,16 @@
 #pragma once
 // Owners of Windows handles: moved, never copied, and given back on destruction.
 
+#include "platform/win32/wide.h"
+
 #include <objbase.h>
 #include <winspool.h>
 
 #include <utility>
 
-#include "platform/win32/wide.h"
+// Macros that would rename members of the core's interfaces.
+#undef AddForm
+#undef DeleteForm
 
 namespace qm::platform::win32 {
 

@@ -1,8 +1,10 @@
 #include "platform/win32/user_settings.h"
 
+#include "platform/win32/wide.h"
+
 #include <oleauto.h>
 
-#include "platform/win32/wide.h"
+#include <iterator>
 
 namespace qm::platform::win32 {
 namespace {
