@@ -1,8 +1,10 @@
 #pragma once
 // The text and kind code that a field description of a model stands for.
-// Errors: 9 at the 21st prompt of a copy and for a row that does not exist, 5 for the description "#".
+// Errors: 9 at the 21st prompt of a copy and for a row that does not exist, 5 for the description "#", 6 for
+//         an amount or a prompt counter beyond its range.
 
 #include <cstdint>
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -32,6 +34,10 @@ class ValueLookup {
                                                 std::int16_t& kind, int row);
 
  private:
+  [[nodiscard]] std::optional<std::u16string> LiteralOrField(std::u16string_view name, std::int16_t copy,
+                                                             std::int16_t& kind, PromptState& state);
+  [[nodiscard]] std::u16string CellText(const Cells& cells, std::u16string_view name, std::int16_t& kind);
+
   PrintJob& job_;
   platform::Prompts& prompts_;
   platform::Clock& clock_;

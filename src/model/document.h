@@ -1,7 +1,12 @@
 #pragma once
 // The file of print models: XML in the 8-bit code page, any number of models, each with its number.
 // Units:  as written in the file (twips and points as texts of the user who saved).
-// Errors: 91 for a lookup in a document that could not be parsed.
+// Errors: 91 for a lookup in a document that could not be parsed, and for changing or writing one that has no
+//         root element: one that could not be parsed or has anything (a declaration, a comment) before its
+//         root.
+// Texts:  whatever XML can hold comes back as it was saved: characters that the code page lacks and line ends
+//         are written as numeric references. Control characters that XML forbids are dropped on saving.
+// Names are given without namespace prefix.
 
 #include <cstdint>
 #include <memory>
@@ -66,9 +71,12 @@ class ModelDocument {
   ModelDocument& operator=(ModelDocument&&) noexcept;
   ~ModelDocument();
 
+  // The first child element, whatever its name, whose `Numero` is this number.
   [[nodiscard]] std::optional<ModelTexts> Find(std::int32_t numero) const;
-  // The model becomes the last one; an earlier one of its number goes.
+  // The model becomes the last one; the first earlier one of its number goes.
   void Replace(const ModelToSave& model, const runtime::Locale& locale);
+  // The root element alone, in the code page, on one line; all else that the models hold stays as it was but
+  // for white space between elements.
   [[nodiscard]] std::string Serialize() const;
 
  private:

@@ -39,7 +39,7 @@ class PaperForms {
   void DeleteCustomForm();
 
  private:
-  void WarnMissingPrinter();
+  void Note(const platform::SpoolerOutcome& outcome);  // warns of a missing printer, keeps an error
 
   PaperFormState& state_;
   platform::Spooler& spooler_;

@@ -34,6 +34,10 @@ inline std::string Describe(const platform::Font& font) {
 template <typename Base>
 class Recording : public Base {
  public:
+  Recording() = default;
+  Recording(const Recording&) = delete;
+  Recording& operator=(const Recording&) = delete;
+
   [[nodiscard]] platform::Font CurrentFont() const override { return font_; }
   void SetFont(const platform::Font& font) override { font_ = font; }
   void SetForeColor(std::int32_t color) override { color_ = color; }
@@ -66,7 +70,9 @@ class Recording : public Base {
 
   [[nodiscard]] double ScaleWidth() const override { return scaleWidth_; }
 
-  [[nodiscard]] const std::string& Log() const { return log_; }
+  [[nodiscard]] const std::string& Log() const { return *sink_; }
+  // Writes to a log shared with other fakes, which must outlive the surface.
+  void LogTo(std::string& sink) { sink_ = &sink; }
   [[nodiscard]] int Measurements() const { return measurements_; }
   void SetScaleWidth(double twips) { scaleWidth_ = twips; }
 
@@ -74,7 +80,7 @@ class Recording : public Base {
   static constexpr double kLineHeight = 240;
 
  protected:
-  void Write(std::string_view line) { log_.append(line).append("\n"); }
+  void Write(std::string_view line) { sink_->append(line).append("\n"); }
 
  private:
   static std::string Position(platform::Point at) { return Number(at.x) + "," + Number(at.y); }
@@ -86,6 +92,7 @@ class Recording : public Base {
   double scaleWidth_ = 11906;
   int measurements_ = 0;
   std::string log_;
+  std::string* sink_ = &log_;
 };
 
 using RecordingSurface = Recording<platform::Surface>;

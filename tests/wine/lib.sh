@@ -16,7 +16,7 @@ need() {
 
 # run PROGRAM ARGS...: a program of this build (or a name such as cscript) as a Windows program.
 run() {
-  $QM_RUN "$@"
+  "$QM_SOURCE_DIR/scripts/wine-run.sh" ${QM_RUN_FLAGS:+"$QM_RUN_FLAGS"} "$@"
 }
 
 # windows_path FILE: how a Windows program calls that file.

@@ -1,0 +1,46 @@
+#pragma once
+// Files that live in memory. Every replacement is written down; the next ones can be told to fail.
+
+#include <functional>
+#include <map>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "platform/files.h"
+#include "runtime/error.h"
+
+namespace qm::fakes {
+
+class MemoryFiles : public platform::Files {
+ public:
+  struct Replacement {
+    std::u16string path;
+    std::string bytes;
+  };
+
+  std::map<std::u16string, std::string, std::less<>> contents;
+  std::vector<Replacement> replacements;                // the successful ones, in order
+  std::optional<runtime::ErrorNumber> failReplaceWith;  // then nothing is written
+  std::optional<runtime::ErrorNumber> failReadWith;
+  std::u16string scratchFolder = u"C:\\Temp\\";
+
+  [[nodiscard]] bool Exists(std::u16string_view path) override { return contents.contains(path); }
+
+  [[nodiscard]] std::optional<std::string> Read(std::u16string_view path) override {
+    if (failReadWith) throw runtime::RuntimeError(*failReadWith);
+    const auto found = contents.find(path);
+    return found == contents.end() ? std::nullopt : std::optional(found->second);
+  }
+
+  void Replace(std::u16string_view path, std::string_view bytes) override {
+    if (failReplaceWith) throw runtime::RuntimeError(*failReplaceWith);
+    contents.insert_or_assign(std::u16string(path), std::string(bytes));
+    replacements.push_back({std::u16string(path), std::string(bytes)});
+  }
+
+  [[nodiscard]] std::u16string ScratchFolder() override { return scratchFolder; }
+};
+
+}  // namespace qm::fakes

@@ -1,0 +1,78 @@
+#pragma once
+// A world of fakes in which a test prints one model file; printers and pictures write to one log.
+
+#include <string>
+#include <string_view>
+#include <utility>
+
+#include "data/fields.h"
+#include "print/engine.h"
+#include "tests/fakes/fake_pictures.h"
+#include "tests/fakes/fixed_clock.h"
+#include "tests/fakes/memory_files.h"
+#include "tests/fakes/recording_printer.h"
+#include "tests/fakes/scripted_prompts.h"
+#include "tests/fakes/scripted_spooler.h"
+
+namespace qm::print {
+
+struct PrintingWorld {
+  std::string log;
+  fakes::MemoryFiles files;
+  fakes::FakePrinters printers{log};
+  fakes::ScriptedSpooler spooler;
+  fakes::FakePictures pictures{files, log};
+  fakes::ScriptedPrompts prompts;
+  fakes::FixedClock clock;
+  model::ModelFile modelFile;
+  PaperFormState paperForms;
+  data::PrintJob job;
+  Environment environment{
+      files, printers, spooler, pictures, prompts, clock, modelFile, paperForms, runtime::Locale::Spanish()};
+
+  PrintingWorld() {
+    modelFile.SetName(u"C:\\Modelos\\fact.xml");
+    spooler.supportsForms = false;
+  }
+
+  // The bytes of the whole file.
+  void SetFile(std::string_view bytes) { files.Replace(modelFile.name, bytes); }
+  // One model of number 1, its further attributes and its fields as XML.
+  void SetModel(std::string_view attributes, std::string_view fields) {
+    std::string text = "<Modelos><Modelo Numero=\"1\" ";
+    text.append(attributes).append(">").append(fields).append("</Modelo></Modelos>");
+    SetFile(text);
+  }
+
+  bool Print() { return print::Print(job, environment); }
+
+  // What is drawn without a printer, or the number of the error.
+  std::string Drawn() {
+    fakes::RecordingSurface surface;
+    (void)Draw(job, environment, surface);
+    return surface.Log();
+  }
+};
+
+// The number of the error that an action fails with, 0 for none.
+template <typename Action>
+int ErrorOf(Action&& action) {
+  try {
+    std::forward<Action>(action)();
+  } catch (const runtime::RuntimeError& error) {
+    return error.number();
+  }
+  return 0;
+}
+
+template <typename Action>
+std::u16string ErrorTextOf(Action&& action) {
+  try {
+    std::forward<Action>(action)();
+  } catch (const runtime::RuntimeError& error) {
+    return error.description();
+  }
+  return {};
+}
+
+}  // namespace qm::print
