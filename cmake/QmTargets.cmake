@@ -2,6 +2,10 @@
 
 if(WIN32)
   enable_language(RC)
+  set(ZLIB_USE_STATIC_LIBS ON)
+  # Programs and DLLs stand side by side at the top of the build tree.
+  set(CMAKE_RUNTIME_OUTPUT_DIRECTORY "${CMAKE_BINARY_DIR}")
+  set(CMAKE_SHARED_LIBRARY_PREFIX "")
 endif()
 
 add_library(qm_settings INTERFACE)
@@ -18,6 +22,12 @@ if(QM_SANITIZE)
                                                -fno-omit-frame-pointer)
   target_link_options(qm_settings INTERFACE -fsanitize=address,undefined)
 endif()
+if(QM_FUZZ)
+  file(REMOVE_RECURSE "${CMAKE_BINARY_DIR}/corpora")
+  target_compile_options(qm_settings INTERFACE -fsanitize=fuzzer-no-link,address,undefined
+                                               -fno-sanitize-recover=all -fno-omit-frame-pointer)
+  target_link_options(qm_settings INTERFACE -fsanitize=address,undefined)
+endif()
 
 # qm_library(NAME SOURCES file... [DEPENDS target...])
 # A static library of one source folder.
@@ -29,8 +39,12 @@ endfunction()
 
 # qm_test(NAME SOURCES file... [DEPENDS target...] [TIMEOUT seconds] [ARGS argument...])
 # A GoogleTest program; it runs natively or, in a Windows build, through scripts/wine-run.sh, and
-# leaves its results as build/<preset>/results/NAME.xml. It runs with QM_SOURCE_DIR as a definition.
+# leaves its results as build/<preset>/results/NAME.xml. It runs with QM_SOURCE_DIR as a definition, and
+# with QM_PRINT_JOBS in its environment naming a folder of its own for what it prints.
 function(qm_test name)
+  if(QM_FUZZ)
+    return()
+  endif()
   cmake_parse_arguments(arg "" "TIMEOUT" "SOURCES;DEPENDS;ARGS" ${ARGN})
   if(NOT arg_TIMEOUT)
     set(arg_TIMEOUT 120)
@@ -43,5 +57,50 @@ function(qm_test name)
                                              QM_BINARY_DIR="${CMAKE_BINARY_DIR}")
   add_test(NAME ${name} COMMAND ${name} --gtest_brief=1
                                 "--gtest_output=xml:${CMAKE_BINARY_DIR}/results/${name}.xml" ${arg_ARGS})
-  set_tests_properties(${name} PROPERTIES TIMEOUT ${arg_TIMEOUT})
+  set_tests_properties(${name} PROPERTIES
+    TIMEOUT ${arg_TIMEOUT} SKIP_RETURN_CODE 77
+    ENVIRONMENT "QM_PRINT_JOBS=${CMAKE_BINARY_DIR}/jobs/${name}")
+endfunction()
+
+# qm_script_test(NAME COMMAND script argument... [TIMEOUT seconds] [LABELS label...] [ALONE])
+# A test that is a script: 0 passes, 77 skips, anything else fails. ALONE: nothing runs beside it.
+# Its environment:
+#   QM_SOURCE_DIR, QM_BINARY_DIR   the project and this build tree
+#   QM_RUN_FLAGS                   how scripts/wine-run.sh runs a Windows program of this build: --win32, or empty
+#   QM_PRINT_JOBS                  a folder of its own for printed jobs (not made, not emptied beforehand)
+#   QM_SCRATCH                     a folder of its own for anything else (likewise)
+function(qm_script_test name)
+  if(QM_FUZZ)
+    return()
+  endif()
+  cmake_parse_arguments(arg "ALONE" "TIMEOUT" "COMMAND;LABELS" ${ARGN})
+  if(NOT arg_TIMEOUT)
+    set(arg_TIMEOUT 120)
+  endif()
+  set(flags "${CMAKE_CROSSCOMPILING_EMULATOR}")
+  list(POP_FRONT flags)
+  add_test(NAME ${name} COMMAND ${arg_COMMAND} WORKING_DIRECTORY "${CMAKE_SOURCE_DIR}")
+  set_tests_properties(${name} PROPERTIES
+    TIMEOUT ${arg_TIMEOUT} SKIP_RETURN_CODE 77 LABELS "${arg_LABELS}"
+    ENVIRONMENT "QM_SOURCE_DIR=${CMAKE_SOURCE_DIR};QM_BINARY_DIR=${CMAKE_BINARY_DIR};QM_RUN_FLAGS=${flags};\
+QM_PRINT_JOBS=${CMAKE_BINARY_DIR}/jobs/${name};QM_SCRATCH=${CMAKE_BINARY_DIR}/scratch/${name}")
+  if(arg_ALONE)
+    set_tests_properties(${name} PROPERTIES RUN_SERIAL ON)
+  endif()
+endfunction()
+
+# qm_fuzz(NAME SOURCES file... [DEPENDS target...] CORPUS folder)
+# A libFuzzer target; only the preset "fuzz" builds it. scripts/fuzz.sh runs it on a copy of its seed corpus.
+function(qm_fuzz name)
+  if(NOT QM_FUZZ)
+    return()
+  endif()
+  cmake_parse_arguments(arg "" "CORPUS" "SOURCES;DEPENDS" ${ARGN})
+  get_filename_component(corpus "${arg_CORPUS}" ABSOLUTE)
+  add_executable(${name} ${arg_SOURCES})
+  target_link_libraries(${name} PRIVATE qm_settings ${arg_DEPENDS})
+  target_include_directories(${name} PRIVATE "${CMAKE_SOURCE_DIR}")
+  target_link_options(${name} PRIVATE -fsanitize=fuzzer)
+  set_target_properties(${name} PROPERTIES RUNTIME_OUTPUT_DIRECTORY "${CMAKE_BINARY_DIR}/targets")
+  file(WRITE "${CMAKE_BINARY_DIR}/corpora/${name}" "${corpus}\n")
 endfunction()

@@ -127,7 +127,7 @@ class Reader {
            TakeCurrency()) {
     }
     negative_ = minus_ || closed;
-    return rest_.empty() && closed == parenthesis_;
+    return rest_.empty() && closed == parenthesis_ && !(currency_ && base_ != 0);
   }
 
   std::u16string_view rest_;

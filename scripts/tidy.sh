@@ -1,0 +1,47 @@
+#!/bin/bash
+# tidy.sh [FILE ...]: clang-tidy on the portable sources (default: every .cpp of src/ that build/native compiles;
+# name test files to have them looked at too). A file is looked at again only when it, or something it includes
+# from this project, or the rules have changed. Needs build/native.
+set -uo pipefail
+cd "$(dirname "$0")/.." || exit 1
+version=$(clang-tidy --version 2>/dev/null | grep -oE 'version [0-9]+' | grep -oE '[0-9]+')
+[ "${version:-0}" = 14 ] || { echo "clang-tidy 14 is not installed (found: ${version:-none})" >&2; exit 77; }
+tree=build/native
+cache=build/tidy
+mkdir -p "$cache"
+
+# compiled: "source hash" of each source; the hash is of all the project's files that its object depends on.
+compiled() {
+  ninja -C "$tree" -t deps | LC_ALL=C awk -v root="$PWD/" '
+    /^[^ ].*#deps/ { if (source != "") print source, list; source = ""; list = "" }
+    /^    / {
+      file = substr($0, 5)
+      if (file !~ "^/") next
+      if (index(file, root) != 1 || index(file, root "build/") == 1) next
+      file = substr(file, length(root) + 1)
+      if (source == "" && file ~ /\.cpp$/) source = file
+      list = list " " file
+    }
+    END { if (source != "") print source, list }' |
+    while read -r source files; do
+      # shellcheck disable=SC2086
+      echo "$source $(cat .clang-tidy $files | sha256sum | cut -c1-24)"
+    done
+}
+
+tidy_one() {
+  local source=$1 hash=$2 cache=$3 output
+  [ -f "$cache/$hash" ] && return
+  if output=$(clang-tidy -p build/native --quiet "$source" 2>/dev/null); then
+    touch "$cache/$hash"
+  else
+    echo "$output"
+    return 1
+  fi
+}
+export -f tidy_one
+
+if [ $# -gt 0 ]; then wanted=$(printf '%s\n' "$@" | paste -sd'|'); else wanted='src/.*'; fi
+if compiled | sort -u | grep -E "^($wanted) " | xargs -r -P 2 -n 2 bash -c 'tidy_one "$1" "$2" '"$cache" _; then exit 0; fi
+echo "To mend: change the lines named above; clang-tidy -p build/native --fix FILE does the mechanical ones"
+exit 1
