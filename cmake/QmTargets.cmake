@@ -66,7 +66,7 @@ endfunction()
 # A test that is a script: 0 passes, 77 skips, anything else fails. ALONE: nothing runs beside it.
 # Its environment:
 #   QM_SOURCE_DIR, QM_BINARY_DIR   the project and this build tree
-#   QM_RUN                         how to run a Windows program of this build: "$QM_RUN program.exe" unquoted
+#   QM_RUN_FLAGS                   how scripts/wine-run.sh runs a Windows program of this build: --win32, or empty
 #   QM_PRINT_JOBS                  a folder of its own for printed jobs (not made, not emptied beforehand)
 #   QM_SCRATCH                     a folder of its own for anything else (likewise)
 function(qm_script_test name)
@@ -77,11 +77,12 @@ function(qm_script_test name)
   if(NOT arg_TIMEOUT)
     set(arg_TIMEOUT 120)
   endif()
-  string(REPLACE ";" " " run "${CMAKE_CROSSCOMPILING_EMULATOR}")
+  set(flags "${CMAKE_CROSSCOMPILING_EMULATOR}")
+  list(POP_FRONT flags)
   add_test(NAME ${name} COMMAND ${arg_COMMAND} WORKING_DIRECTORY "${CMAKE_SOURCE_DIR}")
   set_tests_properties(${name} PROPERTIES
     TIMEOUT ${arg_TIMEOUT} SKIP_RETURN_CODE 77 LABELS "${arg_LABELS}"
-    ENVIRONMENT "QM_SOURCE_DIR=${CMAKE_SOURCE_DIR};QM_BINARY_DIR=${CMAKE_BINARY_DIR};QM_RUN=${run};\
+    ENVIRONMENT "QM_SOURCE_DIR=${CMAKE_SOURCE_DIR};QM_BINARY_DIR=${CMAKE_BINARY_DIR};QM_RUN_FLAGS=${flags};\
 QM_PRINT_JOBS=${CMAKE_BINARY_DIR}/jobs/${name};QM_SCRATCH=${CMAKE_BINARY_DIR}/scratch/${name}")
   if(arg_ALONE)
     set_tests_properties(${name} PROPERTIES RUN_SERIAL ON)

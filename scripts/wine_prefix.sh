@@ -102,13 +102,18 @@ from_plain() {
   cp "$plain"/qm-pristine/*.reg "$prefix/"
 }
 
+if [ -d "$prefix" ]; then wineserver -k || true; fi
 rm -rf "$prefix"
-mkdir -p "$(dirname "$prefix")"
+if [ "$prefix" != "$plain" ]; then
+  exec 8>"$plain.lock"
+  flock 8
+fi
 if [ "$prefix" != "$plain" ] && [ "$(cat "$plain/qm-stamp" 2>/dev/null)" = "$stamp null" ]; then
   from_plain
 else
   from_nothing
 fi
+exec 8>&-
 spooler >"$prefix/save_job.sh"
 registry >"$prefix/settings.reg"
 "$wine" regedit /S "Z:${prefix//\//\\}\\settings.reg"

@@ -16,7 +16,8 @@ struct ModelAttributes : testing::Test, PrintingWorld {
   PageSettings Read(std::vector<model::Property> attributes) {
     const model::ModelTexts model{std::move(attributes), {}};
     const auto settings = ReadPageSettings(model, job, environment, Output::Printer);
-    return settings ? *settings : PageSettings{.width = -1};
+    EXPECT_TRUE(settings);
+    return settings.value_or(PageSettings{});
   }
 };
 

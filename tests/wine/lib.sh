@@ -16,7 +16,7 @@ need() {
 
 # run PROGRAM ARGS...: a program of this build (or a name such as cscript) as a Windows program.
 run() {
-  $QM_RUN "$@"
+  "$QM_SOURCE_DIR/scripts/wine-run.sh" ${QM_RUN_FLAGS:+"$QM_RUN_FLAGS"} "$@"
 }
 
 # windows_path FILE: how a Windows program calls that file.
@@ -65,4 +65,12 @@ expect_near() {
 word_box() {
   pdftotext -bbox "$1" - | LC_ALL=C awk -v word="$2" -F'"' '
     index($0, ">" word "</word>") { print $2, $4, $6, $8; exit }'
+}
+
+# imprimir MODELS.xml NUMBER [TIMES [FIELD=VALUE ...]]: a script host prints with the registered component.
+imprimir() {
+  local models=$1
+  shift
+  run cscript //nologo "$(windows_path "$QM_SOURCE_DIR/tests/wine/documents/imprimir.js")" \
+    "$(windows_path "$models")" "$@" | tr -d '\r'
 }

@@ -1,0 +1,173 @@
+#include "platform/win32/files.h"
+
+#include <algorithm>
+
+#include "platform/win32/errors.h"
+#include "platform/win32/handles.h"
+
+namespace qm::platform::win32 {
+namespace {
+
+using runtime::ErrorNumber;
+
+constexpr DWORD kLargestTransfer = 16 * 1024 * 1024;
+
+// Windows takes a path beyond 247 characters only in full and with a prefix that says so.
+std::u16string SystemPath(std::u16string_view path) {
+  std::u16string given(path);
+  if (given.size() < MAX_PATH - 12 || given.starts_with(u"\\\\?\\")) return given;
+  std::u16string full(given.size() + MAX_PATH, u'\0');
+  DWORD length = GetFullPathNameW(Wide(given), static_cast<DWORD>(full.size()), WideBuffer(full), nullptr);
+  if (length > full.size()) {
+    full.resize(length);
+    length = GetFullPathNameW(Wide(given), length, WideBuffer(full), nullptr);
+  }
+  if (length == 0 || length > full.size()) return given;
+  full.resize(length);
+  if (full.starts_with(u"\\\\")) return u"\\\\?\\UNC\\" + full.substr(2);
+  return u"\\\\?\\" + full;
+}
+
+// A file's attributes, or nothing when there is none of that name.
+std::optional<DWORD> AttributesOf(const std::u16string& systemPath) {
+  const DWORD attributes = GetFileAttributesW(Wide(systemPath));
+  if (attributes == INVALID_FILE_ATTRIBUTES) return std::nullopt;
+  return attributes;
+}
+
+// Refuses, before anything is written, what Windows would refuse at the swap, and also what it would allow:
+// a file that its user has protected.
+void CheckReplaceable(const std::u16string& path) {
+  const std::optional<DWORD> attributes = AttributesOf(path);
+  if (!attributes) return;
+  if (*attributes & (FILE_ATTRIBUTE_READONLY | FILE_ATTRIBUTE_DIRECTORY)) Throw(ErrorNumber::PathFileAccess);
+  const OwnedFile opened(CreateFileW(Wide(path), DELETE,
+                                     FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE, nullptr,
+                                     OPEN_EXISTING, 0, nullptr));
+  if (!opened) ThrowLastFileError();
+}
+
+// A file of our own beside another one; it goes when it has not taken the other's place.
+class FileBeside {
+ public:
+  explicit FileBeside(const std::u16string& path) {
+    for (int attempt = 0; !file_; ++attempt) {
+      name_ = path + Suffix(attempt);
+      file_.Reset(CreateFileW(Wide(name_), GENERIC_WRITE, 0, nullptr, CREATE_NEW,
+                              FILE_ATTRIBUTE_NORMAL | FILE_FLAG_SEQUENTIAL_SCAN, nullptr));
+      if (!file_ && (GetLastError() != ERROR_FILE_EXISTS || attempt == kMostAttempts)) ThrowLastFileError();
+    }
+  }
+  FileBeside(const FileBeside&) = delete;
+  FileBeside& operator=(const FileBeside&) = delete;
+  ~FileBeside() {
+    file_.Reset();
+    if (!kept_) DeleteFileW(Wide(name_));
+  }
+
+  void Write(std::string_view bytes) {
+    while (!bytes.empty()) {
+      const auto part = static_cast<DWORD>(std::min<std::size_t>(bytes.size(), kLargestTransfer));
+      DWORD written = 0;
+      if (!WriteFile(file_.Get(), bytes.data(), part, &written, nullptr)) ThrowLastFileError();
+      if (written == 0) Throw(ErrorNumber::DiskFull);
+      bytes.remove_prefix(written);
+    }
+    if (!FlushFileBuffers(file_.Get())) ThrowLastFileError();
+    file_.Reset();
+  }
+
+  void TakeThePlaceOf(const std::u16string& path) {
+    if (!AttributesOf(path)) {
+      MoveTo(path, MOVEFILE_WRITE_THROUGH);
+    } else if (!ReplaceFileW(Wide(path), Wide(name_), nullptr,
+                             REPLACEFILE_WRITE_THROUGH | REPLACEFILE_IGNORE_MERGE_ERRORS, nullptr, nullptr)) {
+      RecoverFrom(GetLastError(), path);
+    }
+    kept_ = true;
+  }
+
+ private:
+  static constexpr int kMostAttempts = 100;
+
+  static std::u16string Suffix(int attempt) {
+    constexpr char16_t kDigits[] = u"0123456789ABCDEF";
+    const std::uint32_t mark = GetCurrentProcessId() * 2654435761U + GetTickCount() * 101U +
+                               static_cast<std::uint32_t>(attempt);
+    std::u16string suffix = u".";
+    for (int shift = 28; shift >= 0; shift -= 4) suffix += kDigits[(mark >> shift) & 15U];
+    return suffix + u".tmp";
+  }
+
+  void MoveTo(const std::u16string& path, DWORD flags) {
+    if (!MoveFileExW(Wide(name_), Wide(path), flags)) ThrowLastFileError();
+  }
+
+  // ReplaceFile may have taken the old file away before it failed: then our file is the only copy. Some
+  // network drives do not know it at all.
+  void RecoverFrom(DWORD error, const std::u16string& path) {
+    if (!AttributesOf(path)) {
+      kept_ = true;
+      MoveTo(path, MOVEFILE_WRITE_THROUGH);
+    } else if (error == ERROR_NOT_SUPPORTED || error == ERROR_INVALID_FUNCTION ||
+               error == ERROR_CALL_NOT_IMPLEMENTED) {
+      MoveTo(path, MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH);
+    } else {
+      ThrowFileError(error);
+    }
+  }
+
+  std::u16string name_;
+  OwnedFile file_;
+  bool kept_ = false;
+};
+
+}  // namespace
+
+bool Win32Files::Exists(std::u16string_view path) {
+  const std::optional<DWORD> attributes = AttributesOf(SystemPath(path));
+  return attributes && (*attributes & FILE_ATTRIBUTE_DIRECTORY) == 0;
+}
+
+std::optional<std::string> Win32Files::Read(std::u16string_view path) {
+  const OwnedFile file(CreateFileW(Wide(SystemPath(path)), GENERIC_READ,
+                                   FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE, nullptr,
+                                   OPEN_EXISTING, FILE_FLAG_SEQUENTIAL_SCAN, nullptr));
+  if (!file) {
+    const DWORD error = GetLastError();
+    if (error == ERROR_FILE_NOT_FOUND || error == ERROR_PATH_NOT_FOUND) return std::nullopt;
+    ThrowFileError(error);
+  }
+  LARGE_INTEGER size{};
+  if (!GetFileSizeEx(file.Get(), &size)) ThrowLastFileError();
+  if (size.QuadPart > INT32_MAX) Throw(ErrorNumber::OutOfMemory);
+  std::string bytes(static_cast<std::size_t>(size.QuadPart), '\0');
+  std::size_t filled = 0;
+  while (filled < bytes.size()) {
+    const auto part = static_cast<DWORD>(std::min<std::size_t>(bytes.size() - filled, kLargestTransfer));
+    DWORD read = 0;
+    if (!ReadFile(file.Get(), bytes.data() + filled, part, &read, nullptr)) ThrowLastFileError();
+    if (read == 0) break;
+    filled += read;
+  }
+  bytes.resize(filled);
+  return bytes;
+}
+
+void Win32Files::Replace(std::u16string_view path, std::string_view bytes) {
+  const std::u16string target = SystemPath(path);
+  CheckReplaceable(target);
+  FileBeside fresh(target);
+  fresh.Write(bytes);
+  fresh.TakeThePlaceOf(target);
+}
+
+std::u16string Win32Files::ScratchFolder() {
+  std::u16string folder(MAX_PATH + 1, u'\0');
+  const DWORD length = GetTempPathW(static_cast<DWORD>(folder.size()), WideBuffer(folder));
+  if (length == 0 || length > folder.size()) Throw(ErrorNumber::PathNotFound);
+  folder.resize(length);
+  return folder;
+}
+
+}  // namespace qm::platform::win32
