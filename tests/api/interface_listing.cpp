@@ -131,7 +131,9 @@ std::string ListFunctions(ITypeInfo& info, const TYPEATTR& attributes) {
   for (UINT i = 0; i < attributes.cFuncs; ++i) {
     FUNCDESC* function = nullptr;
     if (FAILED(info.GetFuncDesc(i, &function))) continue;
-    text += FunctionLine(info, *function);
+    // The dispatch view of an event interface shows those of IUnknown and IDispatch, too.
+    const bool isInherited = function->memid >= 0x60000000 && function->memid < 0x60020000;
+    if (!isInherited) text += FunctionLine(info, *function);
     info.ReleaseFuncDesc(function);
   }
   return text;
