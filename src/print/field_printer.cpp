@@ -12,6 +12,8 @@ namespace {
 constexpr std::u16string_view kScratchPicture = u"fotosocio.jpg";
 constexpr double kTwipsPerPixel = 15;
 constexpr double kLineGap = 10;
+// Line heights are fractions of a twip on printers: a line that ends at the bottom must not fall by a last bit.
+constexpr double kRoundingTwips = 1e-6;
 
 // A side of a picture's box in pixels; a box without extent leaves the picture's own.
 int BoxPixels(std::int16_t twips, int ownPixels) {
@@ -63,7 +65,7 @@ void FieldPrinter::PrintWrapped(const FieldState& field, platform::Point at, std
   const double bottom = at.y + field.height;
   bool first = true;
   for (text::Line& line : text::SplitLines(surface_, value, field.width)) {
-    if (!first && at.y + line.height > bottom) break;
+    if (!first && at.y + line.height > bottom + kRoundingTwips) break;
     first = false;
     const double height = line.height;
     PrintAligned(field, at, std::move(line));
