@@ -7,6 +7,15 @@
 #include "platform/win32/errors.h"
 
 namespace qm::platform::win32 {
+namespace {
+
+BOOL CALLBACK CollectUsable(HWND window, LPARAM list) noexcept {
+  if (IsWindowVisible(window) && IsWindowEnabled(window))
+    reinterpret_cast<std::vector<HWND>*>(list)->push_back(window);
+  return TRUE;
+}
+
+}  // namespace
 
 void DialogLayout::AddLabel(std::u16string_view text) {
   controls_.push_back({Kind::Label, -1, std::u16string(text), {}});
@@ -22,12 +31,7 @@ void DialogLayout::AddButton(int id, std::u16string_view text) {
 }
 
 Dialog::OtherWindows::OtherWindows(HWND owner) {
-  const auto collect = [](HWND window, LPARAM list) noexcept -> BOOL {
-    if (IsWindowVisible(window) && IsWindowEnabled(window))
-      reinterpret_cast<std::vector<HWND>*>(list)->push_back(window);
-    return TRUE;
-  };
-  EnumThreadWindows(GetCurrentThreadId(), collect, reinterpret_cast<LPARAM>(&windows_));
+  EnumThreadWindows(GetCurrentThreadId(), CollectUsable, reinterpret_cast<LPARAM>(&windows_));
   std::erase(windows_, owner);  // Windows takes care of the owner itself
   for (const HWND window : windows_) EnableWindow(window, FALSE);
 }

@@ -23,6 +23,7 @@ constexpr int kButtonPadding = 12;
 constexpr int kNarrowest = 180;
 constexpr int kWidest = 320;
 constexpr int kTallestLabelPercent = 50;  // of the screen
+constexpr std::size_t kLongestStandingLabel = 4000;
 
 constexpr int kButtonClass = 0x0080;
 constexpr int kEditClass = 0x0081;
@@ -42,10 +43,12 @@ class Ruler {
     unitY_ = std::max(1, static_cast<int>(metrics.tmHeight));
   }
 
+  // Wrapping a text takes Windows time with the square of its length, so what cannot fit is not measured.
   [[nodiscard]] int Width(std::u16string_view text) const {
-    return Up(Measured(text, DT_SINGLELINE, 0).right, 4, unitX_);
+    return Up(Measured(text.substr(0, kWidest), DT_SINGLELINE, 0).right, 4, unitX_);
   }
   [[nodiscard]] int HeightOfWrapped(std::u16string_view text, int width) const {
+    if (text.size() > kLongestStandingLabel) return ScreenHeight();
     const RECT area = Measured(text, DT_WORDBREAK | DT_EDITCONTROL, MulDiv(width, unitX_, 4));
     return std::max(8, Up(area.bottom, 8, unitY_) + 1);
   }
