@@ -15,18 +15,26 @@ using runtime::RuntimeError;
 
 VARTYPE VariantTypeOf(Type type) {
   switch (type) {
-    case Type::Text: return VT_BSTR;
-    case Type::Integer: return VT_I2;
-    case Type::Long: return VT_I4;
-    case Type::Boolean: return VT_BOOL;
-    case Type::Variant: return VT_VARIANT;
+    case Type::Text:
+      return VT_BSTR;
+    case Type::Integer:
+      return VT_I2;
+    case Type::Long:
+      return VT_I4;
+    case Type::Boolean:
+      return VT_BOOL;
+    case Type::Variant:
+      return VT_VARIANT;
     case Type::Dispatch:
     case Type::Campos:
     case Type::Tablas:
-    case Type::RecordFile: return VT_DISPATCH;
+    case Type::RecordFile:
+      return VT_DISPATCH;
     case Type::TextArray:
-    case Type::IntegerArray: return VT_ARRAY;
-    case Type::None: break;
+    case Type::IntegerArray:
+      return VT_ARRAY;
+    case Type::None:
+      break;
   }
   return VT_EMPTY;
 }
@@ -53,12 +61,16 @@ SAFEARRAY** ArrayOf(const VARIANT& source) {
 IUnknown* ObjectOf(const VARIANT& source) {
   const VARIANT& value = Inner(source);
   switch (value.vt) {
-    case VT_EMPTY: return nullptr;
+    case VT_EMPTY:
+      return nullptr;
     case VT_DISPATCH:
-    case VT_UNKNOWN: return value.punkVal;
+    case VT_UNKNOWN:
+      return value.punkVal;
     case VT_BYREF | VT_DISPATCH:
-    case VT_BYREF | VT_UNKNOWN: return value.ppunkVal ? *value.ppunkVal : nullptr;
-    default: throw RuntimeError(ErrorNumber::TypeMismatch);
+    case VT_BYREF | VT_UNKNOWN:
+      return value.ppunkVal ? *value.ppunkVal : nullptr;
+    default:
+      throw RuntimeError(ErrorNumber::TypeMismatch);
   }
 }
 
@@ -78,11 +90,19 @@ void StoreThrough(const VARIANT& reference, const VARIANT& value) noexcept {
       *reference.pbstrVal = converted.bstrVal;
       break;
     case VT_I2:
-    case VT_BOOL: *reference.piVal = converted.iVal; break;
+    case VT_BOOL:
+      *reference.piVal = converted.iVal;
+      break;
     case VT_I4:
-    case VT_INT: *reference.plVal = converted.lVal; break;
-    case VT_R8: *reference.pdblVal = converted.dblVal; break;
-    default: VariantClear(&converted); break;
+    case VT_INT:
+      *reference.plVal = converted.lVal;
+      break;
+    case VT_R8:
+      *reference.pdblVal = converted.dblVal;
+      break;
+    default:
+      VariantClear(&converted);
+      break;
   }
 }
 
@@ -99,7 +119,7 @@ Arguments::Argument& Arguments::Add(VARTYPE type) {
 // Sorts positional and named arguments into the order of the parameters.
 HRESULT Arguments::Place(const Function& function, const DISPPARAMS& passed,
                          std::array<const VARIANT*, kMostParameters>& given) {
-  const std::size_t most = function.access == Access::Call ? function.member->ParameterCount()
+  const std::size_t most = function.access == Access::Call  ? function.member->ParameterCount()
                            : function.access == Access::Get ? 0
                                                             : 1;
   if (passed.cArgs > most || passed.cNamedArgs > passed.cArgs) return DISP_E_BADPARAMCOUNT;
@@ -145,22 +165,28 @@ HRESULT Arguments::Take(const Function& function, const DISPPARAMS& passed) {
 
 void Arguments::TakeReference(const VARIANT& source, Type type, Argument& argument) {
   switch (type) {
-    case Type::Variant: argument.passed.byref = const_cast<VARIANT*>(&Inner(source)); break;
+    case Type::Variant:
+      argument.passed.byref = const_cast<VARIANT*>(&Inner(source));
+      break;
     case Type::TextArray:
-    case Type::IntegerArray: argument.passed.byref = ArrayOf(source); break;
+    case Type::IntegerArray:
+      argument.passed.byref = ArrayOf(source);
+      break;
     case Type::RecordFile: {
       argument.converted->vt = VT_UNKNOWN;
       argument.converted->punkVal = nullptr;
       IUnknown* object = ObjectOf(source);
-      if (object && FAILED(object->QueryInterface(
-                        kRecordFileInterface, reinterpret_cast<void**>(&argument.converted->punkVal)))) {
+      if (object && FAILED(object->QueryInterface(kRecordFileInterface,
+                                                  reinterpret_cast<void**>(&argument.converted->punkVal)))) {
         argument.converted->punkVal = nullptr;
         throw RuntimeError(ErrorNumber::TypeMismatch);
       }
       argument.passed.byref = &argument.converted->punkVal;
       break;
     }
-    default: TakeScalarReference(source, VariantTypeOf(type), argument); break;
+    default:
+      TakeScalarReference(source, VariantTypeOf(type), argument);
+      break;
   }
   argument.passed.vt = VT_BYREF;
 }
@@ -176,8 +202,10 @@ void Arguments::TakeScalarReference(const VARIANT& source, VARTYPE type, Argumen
   argument.passed.byref = &argument.converted->byref;  // the members of the union share their address
   if (!isReference) return;
   argument.origin = value.vt & VT_BYREF ? &value : &source;
-  if (type == VT_BSTR) argument.textBefore = TextOf(argument.converted->bstrVal);
-  else argument.numberBefore = NumberIn(argument.converted.Get());
+  if (type == VT_BSTR)
+    argument.textBefore = TextOf(argument.converted->bstrVal);
+  else
+    argument.numberBefore = NumberIn(argument.converted.Get());
 }
 
 void Arguments::TakeValue(const VARIANT& source, Type type, Argument& argument) {
@@ -207,8 +235,8 @@ void Arguments::GiveBack() noexcept {
   for (Argument& argument : arguments_) {
     if (!argument.origin) continue;
     const VARIANT& value = argument.converted.Get();
-    const bool changed =
-        value.vt == VT_BSTR ? TextOf(value.bstrVal) != argument.textBefore : NumberIn(value) != argument.numberBefore;
+    const bool changed = value.vt == VT_BSTR ? TextOf(value.bstrVal) != argument.textBefore
+                                             : NumberIn(value) != argument.numberBefore;
     if (changed) StoreThrough(*argument.origin, value);
   }
 }

@@ -1,9 +1,9 @@
 #pragma once
-// The arguments of one late-bound call, as the vtable wants them. It holds converted copies for as long as the
-// call runs.
+// The arguments of one late-bound call, as the vtable wants them. It holds converted copies for as long as
+// the call runs.
 
-#include <windows.h>
 #include <oaidl.h>
+#include <windows.h>
 
 #include <array>
 #include <string>
@@ -15,7 +15,8 @@ namespace qm::api {
 
 class Arguments {
  public:
-  // DISP_E_BADPARAMCOUNT, DISP_E_PARAMNOTFOUND and DISP_E_PARAMNOTOPTIONAL come back; a failed conversion is thrown.
+  // DISP_E_BADPARAMCOUNT, DISP_E_PARAMNOTFOUND and DISP_E_PARAMNOTOPTIONAL come back; a failed conversion is
+  // thrown.
   [[nodiscard]] HRESULT Take(const Function& function, const DISPPARAMS& passed);
   void AddResult(const Function& function, OwnedVariant& returned);
   // After the call: what it changed in converted copies goes to the host's variables.
@@ -30,9 +31,9 @@ class Arguments {
 
  private:
   struct Argument {
-    VARIANT passed{};                  // as the vtable wants it
-    OwnedVariant converted;            // what it may point to
-    const VARIANT* origin = nullptr;   // the host's reference, to give a change back
+    VARIANT passed{};                 // as the vtable wants it
+    OwnedVariant converted;           // what it may point to
+    const VARIANT* origin = nullptr;  // the host's reference, to give a change back
     std::u16string textBefore;
     LONG numberBefore = 0;
   };

@@ -17,8 +17,8 @@ using runtime::ErrorNumber;
 using runtime::RuntimeError;
 
 bool SameName(std::u16string_view name, const OLECHAR* asked) {
-  return CompareStringOrdinal(reinterpret_cast<const OLECHAR*>(name.data()), static_cast<int>(name.size()), asked, -1,
-                              TRUE) == CSTR_EQUAL;
+  return CompareStringOrdinal(reinterpret_cast<const OLECHAR*>(name.data()), static_cast<int>(name.size()),
+                              asked, -1, TRUE) == CSTR_EQUAL;
 }
 
 const Member* FindMember(const Interface& face, const OLECHAR* name) {
@@ -37,10 +37,14 @@ DISPID IdOfParameter(const Member& member, const OLECHAR* name) {
 
 bool Serves(Access access, WORD flags) {
   switch (access) {
-    case Access::Call: return flags & DISPATCH_METHOD;
-    case Access::Get: return flags & DISPATCH_PROPERTYGET;
-    case Access::Let: return flags & DISPATCH_PROPERTYPUT;
-    case Access::Set: return flags & DISPATCH_PROPERTYPUTREF;
+    case Access::Call:
+      return flags & DISPATCH_METHOD;
+    case Access::Get:
+      return flags & DISPATCH_PROPERTYGET;
+    case Access::Let:
+      return flags & DISPATCH_PROPERTYPUT;
+    case Access::Set:
+      return flags & DISPATCH_PROPERTYPUTREF;
   }
   return false;
 }
@@ -71,8 +75,8 @@ HRESULT Call(IDispatch& object, const Function& function, Arguments& arguments, 
   OwnedVariant returned;
   arguments.AddResult(function, returned);
   VARIANT outcome{};
-  HRESULT called = DispCallFunc(&object, static_cast<ULONG_PTR>(function.slot) * sizeof(void*), CC_STDCALL, VT_ERROR,
-                                arguments.Count(), arguments.Types(), arguments.Values(), &outcome);
+  HRESULT called = DispCallFunc(&object, static_cast<ULONG_PTR>(function.slot) * sizeof(void*), CC_STDCALL,
+                                VT_ERROR, arguments.Count(), arguments.Types(), arguments.Values(), &outcome);
   if (SUCCEEDED(called)) called = outcome.scode;
   if (FAILED(called)) return called;
   arguments.GiveBack();
@@ -96,8 +100,9 @@ HRESULT IdsOfNames(const Interface& face, LPOLESTR* names, UINT count, DISPID* i
   return found;
 }
 
-HRESULT InvokeMember(const Interface& face, IDispatch& object, DISPID id, WORD flags, const DISPPARAMS* passed,
-                     VARIANT* result, EXCEPINFO* exception, UINT* wrongArgument) noexcept {
+HRESULT InvokeMember(const Interface& face, IDispatch& object, DISPID id, WORD flags,
+                     const DISPPARAMS* passed, VARIANT* result, EXCEPINFO* exception,
+                     UINT* wrongArgument) noexcept {
   if (!passed) return E_INVALIDARG;
   const std::optional<Function> function = FindFunction(face, id, flags);
   if (!function) return DISP_E_MEMBERNOTFOUND;

@@ -41,8 +41,8 @@ class ClassesRoot {
  public:
   explicit ClassesRoot(Scope scope) {
     const HKEY top = scope == Scope::Machine ? HKEY_LOCAL_MACHINE : HKEY_CURRENT_USER;
-    const LSTATUS opened = RegCreateKeyExW(top, L"Software\\Classes", 0, nullptr, 0, KEY_READ | KEY_WRITE, nullptr,
-                                           key_.Out(), nullptr);
+    const LSTATUS opened = RegCreateKeyExW(top, L"Software\\Classes", 0, nullptr, 0, KEY_READ | KEY_WRITE,
+                                           nullptr, key_.Out(), nullptr);
     if (opened != ERROR_SUCCESS) throw RegistryError(opened);
   }
   [[nodiscard]] HKEY Get() const noexcept { return key_.Get(); }

@@ -100,7 +100,7 @@ class Scanner {
   // The part up to the terminator, which is taken as well.
   bool TakeUntil(std::string_view terminator, std::string_view& part) {
     const std::size_t end = text_.find(terminator, at_);
-    if (end == text_.npos) return false;
+    if (end == std::string_view::npos) return false;
     part = text_.substr(at_, end - at_);
     at_ = end + terminator.size();
     return std::none_of(part.begin(), part.end(), [this](char c) {

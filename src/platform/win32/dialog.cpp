@@ -98,7 +98,8 @@ void Dialog::Fill() {
   for (const DialogLayout::Control& control : layout_.controls_) {
     const int id = control.kind == Kind::Label ? labelId++ : control.id;
     const HWND window = GetDlgItem(window_, id);
-    if (control.kind == Kind::Label || control.kind == Kind::Entry) SetWindowTextW(window, Wide(control.text));
+    if (control.kind == Kind::Label || control.kind == Kind::Entry)
+      SetWindowTextW(window, Wide(control.text));
     if (control.kind == Kind::Entry) SendMessageW(window, EM_SETSEL, 0, -1);
     for (const std::u16string& item : control.items)
       SendMessageW(window, LB_ADDSTRING, 0, reinterpret_cast<LPARAM>(Wide(item)));
@@ -110,10 +111,10 @@ void Dialog::Fill() {
 
 void Dialog::Command(int id, int notification) {
   const bool clicked = notification == BN_CLICKED && (id == IDOK || id == IDCANCEL);
-  const bool isList =
-      std::any_of(layout_.controls_.begin(), layout_.controls_.end(), [=](const DialogLayout::Control& control) {
-        return control.kind == DialogLayout::Kind::List && control.id == id;
-      });
+  const bool isList = std::any_of(layout_.controls_.begin(), layout_.controls_.end(),
+                                  [=](const DialogLayout::Control& control) {
+                                    return control.kind == DialogLayout::Kind::List && control.id == id;
+                                  });
   if (clicked) End(id);
   if (isList && notification == LBN_DBLCLK) Command(IDOK, BN_CLICKED);
 }

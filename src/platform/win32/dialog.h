@@ -24,10 +24,10 @@ class DialogLayout {
  public:
   explicit DialogLayout(std::u16string_view title) : title_(title) {}
 
-  void AddLabel(std::u16string_view text);           // wrapped; very long ones scroll
-  void AddEntry(int id, std::u16string_view text);   // one line, all selected
+  void AddLabel(std::u16string_view text);                         // wrapped; very long ones scroll
+  void AddEntry(int id, std::u16string_view text);                 // one line, all selected
   void AddList(int id, const std::vector<std::u16string>& items);  // the first is selected
-  void AddButton(int id, std::u16string_view text);  // IDOK is the default one
+  void AddButton(int id, std::u16string_view text);                // IDOK is the default one
 
  private:
   friend class DialogTemplate;

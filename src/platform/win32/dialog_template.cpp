@@ -121,14 +121,17 @@ DialogTemplate::DialogTemplate(const DialogLayout& layout) {
     return std::max(kButtonWidth, ruler.Width(text) + kButtonPadding);
   };
   for (const DialogLayout::Control& control : layout.controls_) {
-    if (control.kind == Kind::Button) buttonsWidth += kGap + buttonWidth(control.text);
-    else width = std::max(width, std::min(kWidest, ruler.Width(control.text) + kGap));
+    if (control.kind == Kind::Button)
+      buttonsWidth += kGap + buttonWidth(control.text);
+    else
+      width = std::max(width, std::min(kWidest, ruler.Width(control.text) + kGap));
     for (const std::u16string& item : control.items)
       width = std::max(width, std::min(kWidest, ruler.Width(item) + 4 * kGap));
   }
   width = std::max(width, buttonsWidth);
 
-  PutDoubleWord(WS_POPUP | WS_CAPTION | WS_SYSMENU | DS_MODALFRAME | DS_CENTER | DS_SETFONT | DS_SETFOREGROUND);
+  PutDoubleWord(WS_POPUP | WS_CAPTION | WS_SYSMENU | DS_MODALFRAME | DS_CENTER | DS_SETFONT |
+                DS_SETFOREGROUND);
   PutDoubleWord(WS_EX_CONTROLPARENT);
   PutWord(static_cast<int>(layout.controls_.size()));
   const std::size_t placeOfBox = words_.size();
@@ -153,7 +156,8 @@ DialogTemplate::DialogTemplate(const DialogLayout& layout) {
           PutControl(kStaticClass, SS_LEFT | SS_NOPREFIX | SS_EDITCONTROL, 0, box, labelId++, u"");
         } else {
           box.height = tallestLabel;
-          PutControl(kEditClass, ES_MULTILINE | ES_READONLY | WS_VSCROLL | WS_TABSTOP, 0, box, labelId++, u"");
+          PutControl(kEditClass, ES_MULTILINE | ES_READONLY | WS_VSCROLL | WS_TABSTOP, 0, box, labelId++,
+                     u"");
         }
         break;
       case Kind::Entry:

@@ -85,8 +85,8 @@ TEST_F(PagePicture, MeasuresAsWindowsMeasures) {
     const SelectedObject selected(dc.Get(), fonts.Get(dc.Get(), font).device.Handle());
     std::vector<int> ends(kText.size());
     SIZE size{};
-    GetTextExtentExPointW(dc.Get(), Wide(kText.data()), static_cast<int>(kText.size()), 0, nullptr, ends.data(),
-                          &size);
+    GetTextExtentExPointW(dc.Get(), Wide(kText.data()), static_cast<int>(kText.size()), 0, nullptr,
+                          ends.data(), &size);
     ASSERT_EQ(measured.ends.size(), kText.size());
     for (std::size_t i = 0; i < kText.size(); ++i)
       EXPECT_DOUBLE_EQ(measured.ends[i], ends[i] * kTwipsPerPixel) << testing::PrintToString(font.name) << i;

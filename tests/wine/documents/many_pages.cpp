@@ -1,6 +1,6 @@
-// many_pages MODELS.xml [PAGES]: prints page after page through the component, a new print job object for each,
-// and compares what the process holds after the first few with what it holds at the end.
-// Exits 0 when nothing grew and the component can be unloaded; prints what it counted.
+// many_pages MODELS.xml [PAGES]: prints page after page through the component, a new print job object for
+// each, and compares what the process holds after the first few with what it holds at the end. Exits 0 when
+// nothing grew and the component can be unloaded; prints what it counted.
 #include <windows.h>
 
 #include <oleauto.h>
@@ -28,7 +28,8 @@ Holdings Count() {
   GetProcessHandleCount(GetCurrentProcess(), &held.handles);
   PROCESS_MEMORY_COUNTERS_EX memory{};
   memory.cb = sizeof memory;
-  GetProcessMemoryInfo(GetCurrentProcess(), reinterpret_cast<PROCESS_MEMORY_COUNTERS*>(&memory), sizeof memory);
+  GetProcessMemoryInfo(GetCurrentProcess(), reinterpret_cast<PROCESS_MEMORY_COUNTERS*>(&memory),
+                       sizeof memory);
   held.kilobytes = memory.PrivateUsage / 1024;
   return held;
 }
@@ -89,11 +90,11 @@ int Run(BSTR models, int pages) {
   const Holdings after = Count();
   const UINT_PTR freshAfter = FreshGdiHandle();
 
-  std::printf("%d pages: GDI %lu to %lu, USER %lu to %lu, handles %lu to %lu, private %zu to %zu KB, "
-              "next GDI handle %#zx to %#zx\n",
-              pages, before.gdi, after.gdi, before.user, after.user, before.handles, after.handles,
-              before.kilobytes, after.kilobytes, static_cast<std::size_t>(freshBefore),
-              static_cast<std::size_t>(freshAfter));
+  std::printf(
+      "%d pages: GDI %lu to %lu, USER %lu to %lu, handles %lu to %lu, private %zu to %zu KB, "
+      "next GDI handle %#zx to %#zx\n",
+      pages, before.gdi, after.gdi, before.user, after.user, before.handles, after.handles, before.kilobytes,
+      after.kilobytes, static_cast<std::size_t>(freshBefore), static_cast<std::size_t>(freshAfter));
   const bool flat = after.gdi <= before.gdi && after.user <= before.user && after.handles <= before.handles &&
                     after.kilobytes <= before.kilobytes + kAllowedKilobytes && freshAfter <= freshBefore + 16;
   const bool unloads = CanUnload();
