@@ -34,7 +34,6 @@ void AppendReference(std::string& out, char32_t point) {
 
 // What stands for an ASCII character, nothing for itself.
 constexpr std::string_view Replacement(char c, Escape escape) {
-  if (escape == Escape::None) return {};
   switch (c) {
     case '&':
       return "&amp;";
@@ -70,13 +69,12 @@ constexpr ByteTable PlainBytes(Escape escape) {
   return plain;
 }
 
-constexpr ByteTable kPlain[] = {PlainBytes(Escape::Text), PlainBytes(Escape::AttributeValue),
-                                PlainBytes(Escape::None)};
+constexpr ByteTable kPlain[] = {PlainBytes(Escape::Text), PlainBytes(Escape::AttributeValue)};
 
-void AppendLetters(std::string& out, std::u16string_view letters, Escape escape) {
+void AppendLetters(std::string& out, std::u16string_view letters) {
   for (std::size_t i = 0; i < letters.size(); ++i) {
     const char16_t unit = letters[i];
-    if (runtime::IsRepresentable(unit) || escape == Escape::None) {
+    if (runtime::IsRepresentable(unit)) {
       out += static_cast<char>(runtime::ToByte(unit));
     } else if ((unit & 0xFC00) == 0xD800 && i + 1 < letters.size()) {
       ++i;
@@ -123,7 +121,7 @@ void AppendInCodePage(std::string& out, std::string_view utf8, Escape escape) {
     } else {
       const char* const foreign = at;
       at = std::find_if(at, end, IsAscii);
-      AppendLetters(out, runtime::FromUtf8(std::string_view(foreign, at)), escape);
+      AppendLetters(out, runtime::FromUtf8(std::string_view(foreign, at)));
     }
   }
 }

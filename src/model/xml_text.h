@@ -16,7 +16,6 @@ namespace qm::model {
 enum class Escape {
   Text,            // of an element
   AttributeValue,  // between double quotes
-  None,            // names, comments, instructions, character data: all from a file of this code page
 };
 
 // Appends UTF-8 in the code page. Characters that the code page lacks, and line ends that a reader would
