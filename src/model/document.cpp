@@ -109,7 +109,7 @@ ModelTexts ReadModel(xml_node modelo) {
 
 void AppendAttribute(std::string& out, std::string_view name, std::u16string_view text) {
   out.append(" ").append(name).append("=\"");
-  AppendInCodePage(out, XmlUtf8(text), Escape::AttributeValue);
+  AppendEscaped(out, text, Escape::AttributeValue);
   out += '"';
 }
 
@@ -120,7 +120,7 @@ void AppendChild(std::string& out, std::string_view name, std::u16string_view te
     return;
   }
   out += '>';
-  AppendInCodePage(out, XmlUtf8(text), Escape::Text);
+  AppendEscaped(out, text, Escape::Text);
   out.append("</").append(name).append(">");
 }
 
