@@ -69,7 +69,7 @@ int main() {
               kRounds);
 
   const auto model = Model(kModels / 2);
-  Report("well-formedness alone", BestMilliseconds([&] { (void)qm::model::Examine(bytes); }));
+  Report("well-formedness alone", BestMilliseconds([&] { (void)qm::model::Outline(bytes); }));
   Report("parse", BestMilliseconds([&] { (void)ModelDocument::Parse(bytes); }));
   Report("find the last", BestMilliseconds([&] { (void)filled.Find(kModels); }));
   Report("replace", BestMilliseconds([&] { filled.Replace(model, locale); }));

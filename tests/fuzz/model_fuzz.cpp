@@ -78,7 +78,7 @@ void SaveAndReadAgain(ModelDocument document, std::string_view bytes,
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
   const std::string_view bytes(reinterpret_cast<const char*>(data), size);
-  const auto shape = qm::model::Examine(bytes);
+  const auto shape = qm::model::Outline(bytes).shape;
   ModelDocument document = ModelDocument::Parse(bytes);
   std::optional<ModelTexts> other;
   try {
