@@ -36,7 +36,7 @@ bool IsNumber(std::string_view text, std::int32_t number) {
   text.remove_prefix(std::min(text.find_first_not_of(kBlanks), text.size()));
   text = text.substr(0, text.find_last_not_of(kBlanks) + 1);
   const std::string_view digits = text.substr(text.starts_with('-') ? 1 : 0);
-  if (digits.find_first_not_of("0123456789.") != digits.npos) return false;
+  if (digits.find_first_not_of("0123456789.") != std::string_view::npos) return false;
   double value = 0;
   const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), value);
   return error == std::errc() && end == text.data() + text.size() && value == number;
@@ -159,32 +159,34 @@ void AddModel(xml_node root, const ModelToSave& model, const Locale& locale) {
 void WriteNode(std::string& out, xml_node node);
 
 void WriteElement(std::string& out, xml_node element) {
+  const std::string_view name = element.name();
   out += '<';
-  AppendInCodePage(out, element.name(), Escape::None);
-  for (const xml_attribute attribute : element.attributes()) {
+  AppendInCodePage(out, name, Escape::None);
+  for (xml_attribute attribute = element.first_attribute(); attribute;
+       attribute = attribute.next_attribute()) {
     out += ' ';
     AppendInCodePage(out, attribute.name(), Escape::None);
     out += "=\"";
     AppendInCodePage(out, attribute.value(), Escape::AttributeValue);
     out += '"';
   }
-  if (!element.first_child()) {
+  xml_node child = element.first_child();
+  if (!child) {
     out += "/>";
     return;
   }
   out += '>';
-  for (const xml_node child : element.children()) WriteNode(out, child);
+  for (; child; child = child.next_sibling()) WriteNode(out, child);
   out += "</";
-  AppendInCodePage(out, element.name(), Escape::None);
+  AppendInCodePage(out, name, Escape::None);
   out += '>';
 }
 
 void WriteText(std::string& out, xml_node node) {
   std::string_view text = node.value();
-  const bool alone = !node.previous_sibling() && !node.next_sibling();
-  const bool onlyBlanks = text.find_first_not_of(kBlanks) == text.npos;
-  if (onlyBlanks && !alone && !text.empty()) {  // readers would drop it as white space between elements
-    out.append("&#").append(std::to_string(text.front())).append(";");
+  const bool onlyBlanks = text.find_first_not_of(kBlanks) == std::string_view::npos;
+  if (onlyBlanks && !text.empty() && (node.previous_sibling() || node.next_sibling())) {
+    out.append("&#").append(std::to_string(text.front())).append(";");  // else a reader would drop it
     text.remove_prefix(1);
   }
   AppendInCodePage(out, text, Escape::Text);

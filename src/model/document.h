@@ -67,6 +67,8 @@ class ModelDocument {
   // An empty text gives a document with an empty root; one that cannot be parsed, a document with none.
   [[nodiscard]] static ModelDocument Parse(std::string_view bytes);
 
+  ModelDocument(const ModelDocument&) = delete;
+  ModelDocument& operator=(const ModelDocument&) = delete;
   ModelDocument(ModelDocument&&) noexcept;
   ModelDocument& operator=(ModelDocument&&) noexcept;
   ~ModelDocument();

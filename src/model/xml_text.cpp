@@ -33,7 +33,7 @@ void AppendReference(std::string& out, char32_t point) {
 }
 
 // What stands for an ASCII character, nothing for itself.
-std::string_view Replacement(char c, Escape escape) {
+constexpr std::string_view Replacement(char c, Escape escape) {
   if (escape == Escape::None) return {};
   switch (c) {
     case '&':
@@ -59,6 +59,19 @@ std::string_view Replacement(char c, Escape escape) {
       return {};
   }
 }
+
+using ByteTable = std::array<bool, 256>;
+
+// The bytes that go out as they are.
+constexpr ByteTable PlainBytes(Escape escape) {
+  ByteTable plain{};
+  for (std::size_t byte = 0; byte < 0x80; ++byte)
+    plain[byte] = Replacement(static_cast<char>(byte), escape).empty();
+  return plain;
+}
+
+constexpr ByteTable kPlain[] = {PlainBytes(Escape::Text), PlainBytes(Escape::AttributeValue),
+                                PlainBytes(Escape::None)};
 
 void AppendLetters(std::string& out, std::u16string_view letters, Escape escape) {
   for (std::size_t i = 0; i < letters.size(); ++i) {
@@ -97,15 +110,21 @@ std::string XmlUtf8(std::u16string_view text) {
 }
 
 void AppendInCodePage(std::string& out, std::string_view utf8, Escape escape) {
-  const auto isPlain = [escape](char c) { return IsAscii(c) && Replacement(c, escape).empty(); };
-  for (auto at = utf8.begin(); at != utf8.end();) {
-    const auto run = std::find_if_not(at, utf8.end(), isPlain);
-    out.append(at, run);
-    at = run;
-    for (; at != utf8.end() && IsAscii(*at) && !isPlain(*at); ++at) out += Replacement(*at, escape);
-    const auto foreign = std::find_if(at, utf8.end(), IsAscii);
-    if (at != foreign) AppendLetters(out, runtime::FromUtf8(std::string_view(at, foreign)), escape);
-    at = foreign;
+  const ByteTable& plain = kPlain[static_cast<std::size_t>(escape)];
+  const char* at = utf8.data();
+  const char* const end = at + utf8.size();
+  while (at != end) {
+    const char* const run = at;
+    while (at != end && plain[static_cast<std::uint8_t>(*at)]) ++at;
+    out.append(run, at);
+    if (at == end) return;
+    if (IsAscii(*at)) {
+      out += Replacement(*at++, escape);
+    } else {
+      const char* const foreign = at;
+      at = std::find_if(at, end, IsAscii);
+      AppendLetters(out, runtime::FromUtf8(std::string_view(foreign, at)), escape);
+    }
   }
 }
 

@@ -78,24 +78,21 @@ struct NumberMask {
 };
 
 NumberMask ReadMask(std::u16string_view mask) {
-  constexpr std::u16string_view kPlaceholders = u"#0.,";
   NumberMask read;
-  const std::size_t first = std::min(mask.find_first_of(kPlaceholders), mask.size());
-  const std::size_t end = std::max(mask.find_last_of(kPlaceholders) + 1, first);
+  const std::size_t first = std::min(mask.find_first_of(u"#0."), mask.size());
+  const std::size_t end = std::max(mask.find_last_of(u"#0.,") + 1, first);
   read.before = mask.substr(0, first);
   read.after = mask.substr(end);
   bool pendingGroup = false;
-  bool anyWhole = false;
   for (const char16_t letter : mask.substr(first, end - first)) {
     if (letter == u'.') read.decimalSign = true;
-    if (letter == u',') pendingGroup = anyWhole && !read.decimalSign;
+    if (letter == u',') pendingGroup = !read.decimalSign;
     if (letter != u'#' && letter != u'0') continue;
     if (read.decimalSign) {
       ++read.mostPlaces;
       if (letter == u'0') read.leastPlaces = read.mostPlaces;
     } else {
       read.grouped = read.grouped || pendingGroup;
-      anyWhole = true;
       if (letter == u'0' || read.leastWhole > 0) ++read.leastWhole;
     }
   }

@@ -1,5 +1,6 @@
 #include "runtime/number_reader.h"
 
+#include <algorithm>
 #include <charconv>
 #include <cstdint>
 #include <limits>
@@ -140,20 +141,17 @@ class Reader {
   int exponent_ = 0;
 };
 
-// The power of ten of the mantissa's first digit other than 0, or of its last place where there is none.
+// About the power of ten of a mantissa other than 0: enough to tell which end of the range was passed.
 long long LeadingPower(std::string_view mantissa) {
-  const std::size_t dot = mantissa.find('.');
-  const auto whole = static_cast<long long>(dot == std::string_view::npos ? mantissa.size() : dot);
-  const auto first = static_cast<long long>(mantissa.find_first_of("123456789"));
-  return first < whole ? whole - first - 1 : whole - first;
+  const std::size_t whole = std::min(mantissa.find('.'), mantissa.size());
+  return static_cast<long long>(whole) - static_cast<long long>(mantissa.find_first_of("123456789"));
 }
 
 }  // namespace
 
 std::optional<double> ToDouble(std::string mantissa, int exponent) {
-  const long long power = mantissa.find_first_of("123456789") == std::string::npos
-                              ? 0
-                              : LeadingPower(mantissa) + static_cast<long long>(exponent);
+  if (mantissa.find_first_of("123456789") == std::string::npos) return 0;
+  const long long power = LeadingPower(mantissa) + exponent;
   if (exponent != 0) mantissa.append("e").append(std::to_string(exponent));
   double value = 0;
   const auto [end, error] = std::from_chars(mantissa.data(), mantissa.data() + mantissa.size(), value);

@@ -33,7 +33,7 @@ TEST(CodePage, ALetterItLacksBecomesItsBestFit) {
        "8"},                    // signs
       {u"Ａ１（", "A1("},       // full width
       {u"\u2003\u2010", " -"},  // typographic blank and hyphen
-      {u"☺жש漢", "????"},       // nothing near
+      {u"☺жש漢ĸ", "?????"},     // nothing near
       {u"\U0001F600", "??"},    // one "?" for each half of a pair
       {u"\u0080", "?"},         // U+0080 itself is no letter of the code page: 0x80 is the euro
   };

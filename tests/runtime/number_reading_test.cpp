@@ -125,6 +125,8 @@ TEST(WholeTextNumber, FollowsTheLocalesSigns) {
       {"euro", u"5 €", 5, kMismatch},
       {"dollar", u"$5", kMismatch, 5},
       {"two currency signs", u"€5€", kMismatch, kMismatch},
+      {"hexadecimal with currency signs", u"$&H10 €", kMismatch, kMismatch},
+      {"hexadecimal with the locale's", u"€&H10", kMismatch, kMismatch},
       {"hexadecimal", u"&H10", 16, 16},
       {"octal", u"&o17", 15, 15},
       {"hexadecimal without digits", u"&H", kMismatch, kMismatch},
@@ -156,6 +158,10 @@ TEST(WholeTextNumber, FollowsTheLocalesSigns) {
 TEST(WholeTextNumber, TooLargeIsErrorSixAndNotANumberIsErrorThirteen) {
   EXPECT_EQ(RaisedBy([] { return CDbl(u"1e400", kSpanish); }), 6);
   EXPECT_EQ(RaisedBy([] { return CDbl(u"-1e400", kSpanish); }), 6);
+  EXPECT_EQ(RaisedBy([] { return CDbl(u"&H1FFFFFFFFFFFFFFFF", kSpanish); }), 6);  // beyond 64 bits
+  EXPECT_EQ(CDbl(u"0e999", kSpanish), 0);
+  EXPECT_EQ(CDbl(std::u16string(400, u'0') + u"5e-1", kSpanish), 0.5);
+  EXPECT_EQ(CDbl(u"," + std::u16string(400, u'0') + u"5e401", kSpanish), 5);
   EXPECT_EQ(RaisedBy([] { return CDbl(u"abc", kSpanish); }), 13);
 }
 

@@ -58,6 +58,7 @@ TEST(PlainText, OfADoubleHasFifteenSignificantDigits) {
       {1E15, u"1E+15"},
       {999999999999999.9, u"1E+15"},  // rounded before the form is chosen
       {1234567890123456, u"1,23456789012346E+15"},
+      {1234567890123.125, u"1234567890123,13"},  // a tie goes away from zero
       {-1.5, u"-1,5"},
       {0.0001, u"0,0001"},
       {0.00001, u"1E-05"},
@@ -136,6 +137,7 @@ TEST(Masks, ZerosForceDigitsAndNumberSignsDoNot) {
       {u"000,000", 12, u"000.012"},
       {u"#,##0", 1234567, u"1.234.567"},
       {u"#,##0", 5, u"5"},
+      {u",##0", 1234567, u",1234567"},  // in front of the places it is text
       {u"0.0#", 1, u"1,0"},
       {u"0.0#", 1.25, u"1,25"},
       {u"0.##", 1, u"1,"},  // the decimal sign stays

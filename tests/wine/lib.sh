@@ -66,3 +66,11 @@ word_box() {
   pdftotext -bbox "$1" - | LC_ALL=C awk -v word="$2" -F'"' '
     index($0, ">" word "</word>") { print $2, $4, $6, $8; exit }'
 }
+
+# imprimir MODELS.xml NUMBER [TIMES [FIELD=VALUE ...]]: a script host prints with the registered component.
+imprimir() {
+  local models=$1
+  shift
+  run cscript //nologo "$(windows_path "$QM_SOURCE_DIR/tests/wine/documents/imprimir.js")" \
+    "$(windows_path "$models")" "$@" | tr -d '\r'
+}

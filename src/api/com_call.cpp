@@ -1,0 +1,88 @@
+#include "api/com_call.h"
+
+#include <oleauto.h>
+#include <wrl/client.h>
+
+#include <new>
+#include <string>
+
+#include "api/text.h"
+#include "api/typelib/definition.h"
+
+namespace qm::api {
+
+namespace {
+
+using Microsoft::WRL::ComPtr;
+using runtime::ErrorNumber;
+using runtime::RuntimeError;
+
+constexpr int kInternalError = 51;
+
+HRESULT Publish(int number, std::u16string_view description, const GUID& interfaceId) noexcept {
+  ComPtr<ICreateErrorInfo> making;
+  ComPtr<IErrorInfo> made;
+  if (SUCCEEDED(CreateErrorInfo(&making))) {
+    const std::u16string source(kLibraryName);
+    const std::u16string text(description);
+    making->SetGUID(interfaceId);
+    making->SetSource(AsWide(source));
+    making->SetDescription(AsWide(text));
+    if (SUCCEEDED(making.As(&made))) SetErrorInfo(0, made.Get());
+  }
+  return ResultOf(number);
+}
+
+// The error information that an object of the host left, as text; empty when there is none.
+std::u16string TakeDescription() {
+  ComPtr<IErrorInfo> information;
+  BSTR description = nullptr;
+  if (GetErrorInfo(0, &information) != S_OK || FAILED(information->GetDescription(&description))) return {};
+  std::u16string text(TextOf(description));
+  SysFreeString(description);
+  return text;
+}
+
+}  // namespace
+
+HRESULT ReportCurrentException(const GUID& interfaceId) noexcept {
+  try {
+    try {
+      throw;
+    } catch (const RuntimeError& error) {
+      return Publish(error.number(), error.description(), interfaceId);
+    } catch (const std::bad_alloc&) {
+      return Publish(static_cast<int>(ErrorNumber::OutOfMemory), u"Memoria insuficiente", interfaceId);
+    } catch (...) {
+      return Publish(kInternalError, u"Error interno", interfaceId);
+    }
+  } catch (...) {  // no memory for the description either
+    return ResultOf(static_cast<int>(ErrorNumber::OutOfMemory));
+  }
+}
+
+void ThrowIfFailed(HRESULT result) {
+  if (SUCCEEDED(result)) return;
+  switch (result) {
+    case DISP_E_TYPEMISMATCH:
+    case DISP_E_BADVARTYPE: throw RuntimeError(ErrorNumber::TypeMismatch);
+    case DISP_E_OVERFLOW: throw RuntimeError(ErrorNumber::Overflow);
+    case DISP_E_BADINDEX: throw RuntimeError(ErrorNumber::SubscriptOutOfRange);
+    case DISP_E_MEMBERNOTFOUND:
+      throw RuntimeError(kNoSuchMember, u"El objeto no admite esta propiedad o método");
+    case E_OUTOFMEMORY: throw std::bad_alloc();
+    case E_INVALIDARG: throw RuntimeError(ErrorNumber::InvalidArgument);
+    default: break;
+  }
+  std::u16string description = TakeDescription();
+  if (HRESULT_FACILITY(result) == FACILITY_CONTROL) {
+    const int number = HRESULT_CODE(result);
+    if (description.empty()) description = runtime::DescriptionOf(number);
+    throw RuntimeError(number, std::move(description));
+  }
+  throw RuntimeError(kAutomationError, description.empty() ? u"Error de automatización" : std::move(description));
+}
+
+void ThrowNotSupported() { throw RuntimeError(kNotSupported, u"El objeto no admite esta acción"); }
+
+}  // namespace qm::api

@@ -1,0 +1,45 @@
+#pragma once
+// Where the concrete parts of the component meet: the Windows implementations of the world outside, the state that
+// all print jobs of a process share, and the engines.
+
+#include "data/print_job.h"
+#include "model/model_file.h"
+#include "platform/win32/files.h"
+#include "platform/win32/pictures.h"
+#include "platform/win32/printers.h"
+#include "platform/win32/prompts.h"
+#include "platform/win32/spooler.h"
+#include "platform/win32/user_settings.h"
+#include "print/engine.h"
+
+namespace qm::api {
+
+class Composition {
+ public:
+  Composition() = default;
+  Composition(const Composition&) = delete;
+  Composition& operator=(const Composition&) = delete;
+
+  // Shared by all print jobs of the process.
+  [[nodiscard]] model::ModelFile& ModelFile() noexcept { return modelFile_; }
+
+  // False when the user ended the printing early. Sheets of labels are not part of this version: error 445.
+  [[nodiscard]] bool Imprimir(data::PrintJob& job);
+
+ private:
+  [[nodiscard]] print::Environment NewEnvironment();
+
+  model::ModelFile modelFile_;
+  print::PaperFormState paperForms_;
+  platform::win32::Win32Files files_;
+  platform::win32::Win32Printers printers_;
+  platform::win32::Win32Spooler spooler_;
+  platform::win32::Win32Pictures pictures_;
+  platform::win32::Win32Prompts prompts_;
+  platform::win32::Win32Clock clock_;
+};
+
+// The one of this process.
+[[nodiscard]] Composition& TheComposition();
+
+}  // namespace qm::api

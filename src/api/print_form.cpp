@@ -1,0 +1,94 @@
+#include "api/print_form.h"
+
+#include "api/records.h"
+#include "data/fields.h"
+
+namespace qm::api {
+
+using Qm_Modelo_Impresion3::_Campos;
+using Qm_Modelo_Impresion3::_QmFileControl2;
+using Qm_Modelo_Impresion3::_Tablas;
+
+PrintForm::PrintForm(Composition& composition)
+    : composition_(composition), events_(*static_cast<IDispatch*>(this), kPrintFormEventsFace) {}
+
+void* PrintForm::FindOther(REFIID id) noexcept {
+  return IsEqualGUID(id, IID_IConnectionPointContainer) ? static_cast<IConnectionPointContainer*>(&events_) : nullptr;
+}
+
+HRESULT PrintForm::get_NumeroModelo(VARIANT* result) noexcept {
+  return Call([&] {
+    VARIANT& place = Required(result);
+    OwnedVariant copy;
+    copy.CopyFrom(numeroModelo_.Get());
+    place = copy.Release();
+  });
+}
+
+HRESULT PrintForm::put_NumeroModelo(VARIANT value) noexcept {
+  return Call([&] { numeroModelo_.CopyFrom(value); });
+}
+
+// Stores what comes, like the let: some hosts bind plain assignments to the set accessor.
+HRESULT PrintForm::putref_NumeroModelo(VARIANT value) noexcept { return put_NumeroModelo(value); }
+
+HRESULT PrintForm::AñadirCampoTabla(BSTR* tabla, BSTR* campo, BSTR* valor, SHORT* tipo) noexcept {
+  return Call([&] {
+    data::Cell cell;
+    Import(Required(tabla), cell.tabla);
+    Import(Required(campo), cell.campo);
+    Import(Required(valor), cell.valor);
+    Import(Required(tipo), cell.tipo);
+    data::AñadirCampoTabla(job_, std::move(cell));
+  });
+}
+
+HRESULT PrintForm::AsignarCampo(BSTR* nombreCampo, VARIANT* valor, _Campos** result) noexcept {
+  return Call([&] {
+    Required(result) = nullptr;
+    const std::u16string_view name = TextOf(Required(nombreCampo));
+    if (auto added = data::AsignarCampo(job_, name, TextOf(Required(valor)))) *result = new Campos(std::move(added));
+  });
+}
+
+HRESULT PrintForm::AñadirCampo(BSTR* nombreCampo, _Campos** result) noexcept {
+  return Call([&] {
+    Required(result) = nullptr;
+    *result = new Campos(data::AñadirCampo(job_, TextOf(Required(nombreCampo))));
+  });
+}
+
+HRESULT PrintForm::AñadirTabla(BSTR* nombreTabla, _Tablas** result) noexcept {
+  return Call([&] {
+    Required(result) = nullptr;
+    *result = new Tablas(data::AñadirTabla(job_, TextOf(Required(nombreTabla))));
+  });
+}
+
+HRESULT PrintForm::ImprimirModelo() noexcept {
+  return Call([&] {
+    job_.numeroModelo = ModelNumberOf(numeroModelo_.Get());
+    if (!composition_.Imprimir(job_)) impresionAnulada_ = true;
+  });
+}
+
+HRESULT PrintForm::put_XMLFileName(BSTR value) noexcept {
+  return Call([&] { composition_.ModelFile().SetName(TextOf(value)); });
+}
+
+HRESULT PrintForm::get_XMLFileName(BSTR* result) noexcept {
+  return Call([&] { Export(composition_.ModelFile().name, Required(result)); });
+}
+
+// Bulk loading, the designer and e-mail are not part of this version.
+HRESULT PrintForm::EmailModelo(BSTR*, BSTR*, BSTR*) noexcept { return Call(ThrowNotSupported); }
+HRESULT PrintForm::EnviarEmail() noexcept { return Call(ThrowNotSupported); }
+HRESULT PrintForm::CrearZip(BSTR*, BSTR*) noexcept { return Call(ThrowNotSupported); }
+HRESULT PrintForm::AsignarDatosTabla(BSTR*, SHORT*, SAFEARRAY**, SAFEARRAY**) noexcept {
+  return Call(ThrowNotSupported);
+}
+HRESULT PrintForm::AsignarDatosTablaQmF(_QmFileControl2**) noexcept { return Call(ThrowNotSupported); }
+HRESULT PrintForm::Show() noexcept { return Call(ThrowNotSupported); }
+HRESULT PrintForm::AsignarDatosTablaQmF2(_QmFileControl2**) noexcept { return Call(ThrowNotSupported); }
+
+}  // namespace qm::api

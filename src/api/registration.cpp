@@ -1,0 +1,137 @@
+#include "api/registration.h"
+
+#include <objbase.h>
+
+#include <new>
+#include <string>
+
+#include "api/registry.h"
+#include "api/type_information.h"
+#include "api/typelib/definition.h"
+#include "api/typelib/guids.h"
+
+namespace qm::api {
+
+namespace {
+
+constexpr bool kIs64Bit = sizeof(void*) == 8;
+constexpr View kOtherView = kIs64Bit ? View::Bits32 : View::Bits64;
+constexpr const wchar_t* kPlatform = kIs64Bit ? L"win64" : L"win32";
+constexpr const wchar_t* kOtherPlatform = kIs64Bit ? L"win32" : L"win64";
+constexpr const wchar_t* kVersion = L"1.0";
+// The automation library's marshaler, which reads the type library.
+constexpr const wchar_t* kAutomationMarshaler = L"{00020424-0000-0000-C000-000000000046}";
+
+std::wstring Wide(std::u16string_view text) { return {text.begin(), text.end()}; }
+
+std::wstring Text(const GUID& id) {
+  wchar_t text[40];
+  StringFromGUID2(id, text, 40);
+  return text;
+}
+
+std::wstring ProgId(const Class& each) { return Wide(kLibraryName) + L"." + Wide(each.name); }
+std::wstring ClassPath(const Class& each) { return L"CLSID\\" + Text(each.id); }
+std::wstring InterfacePath(const Interface& face) { return L"Interface\\" + Text(face.id); }
+std::wstring LibraryKeyPath() { return L"TypeLib\\" + Text(kLibraryId); }
+std::wstring VersionPath() { return LibraryKeyPath() + L"\\" + kVersion; }
+std::wstring LocalePath() { return VersionPath() + L"\\409"; }
+
+class ClassesRoot {
+ public:
+  explicit ClassesRoot(Scope scope) {
+    const HKEY top = scope == Scope::Machine ? HKEY_LOCAL_MACHINE : HKEY_CURRENT_USER;
+    const LSTATUS opened = RegCreateKeyExW(top, L"Software\\Classes", 0, nullptr, 0, KEY_READ | KEY_WRITE, nullptr,
+                                           key_.Out(), nullptr);
+    if (opened != ERROR_SUCCESS) throw RegistryError(opened);
+  }
+  [[nodiscard]] HKEY Get() const noexcept { return key_.Get(); }
+
+ private:
+  RegistryKey key_;
+};
+
+void AddClass(RegistryChanges& changes, const Class& each, const std::wstring& file) {
+  const std::wstring path = ClassPath(each);
+  changes.SetText(path, L"", ProgId(each));
+  changes.SetText(path + L"\\InprocServer32", L"", file);
+  changes.SetText(path + L"\\InprocServer32", L"ThreadingModel", L"Apartment");
+  changes.SetText(path + L"\\ProgID", L"", ProgId(each));
+  changes.SetText(path + L"\\Programmable", L"", L"");
+  changes.SetText(path + L"\\TypeLib", L"", Text(kLibraryId));
+  changes.SetText(path + L"\\VERSION", L"", kVersion);
+  changes.SetText(ProgId(each), L"", ProgId(each));
+  changes.SetText(ProgId(each) + L"\\Clsid", L"", Text(each.id));
+}
+
+void AddInterface(RegistryChanges& changes, const Interface& face) {
+  const std::wstring path = InterfacePath(face);
+  changes.SetText(path, L"", Wide(face.name));
+  changes.SetText(path + L"\\ProxyStubClsid32", L"", kAutomationMarshaler);
+  changes.SetText(path + L"\\TypeLib", L"", Text(kLibraryId));
+  changes.SetText(path + L"\\TypeLib", L"Version", kVersion);
+}
+
+void AddLibrary(RegistryChanges& changes, const std::wstring& file) {
+  changes.SetText(VersionPath(), L"", Wide(kLibraryName));
+  changes.SetText(LocalePath() + L"\\" + kPlatform, L"", file);
+  changes.SetText(VersionPath() + L"\\FLAGS", L"", L"0");
+  changes.SetText(VersionPath() + L"\\HELPDIR", L"", file.substr(0, file.rfind(L'\\')));
+}
+
+void RemoveShared(HKEY root) {
+  for (const Class& each : Classes()) {
+    DeleteTree(root, ProgId(each));
+    for (const Interface* face : {each.face, each.events}) {
+      if (!face) continue;
+      DeleteTree(root, InterfacePath(*face), View::Bits32);
+      DeleteTree(root, InterfacePath(*face), View::Bits64);
+    }
+  }
+  DeleteTree(root, VersionPath());
+  DeleteIfEmpty(root, LibraryKeyPath());
+}
+
+template <class Body>
+HRESULT Guarded(Body&& body) noexcept {
+  try {
+    body();
+    return S_OK;
+  } catch (const RegistryError& error) {
+    return HRESULT_FROM_WIN32(static_cast<DWORD>(error.code));
+  } catch (const std::bad_alloc&) {
+    return E_OUTOFMEMORY;
+  } catch (...) {
+    return E_UNEXPECTED;
+  }
+}
+
+}  // namespace
+
+HRESULT Register(Scope scope) noexcept {
+  return Guarded([&] {
+    const std::wstring file = LibraryPath();
+    const ClassesRoot root(scope);
+    RegistryChanges changes(root.Get());
+    for (const Class& each : Classes()) {
+      AddClass(changes, each, file);
+      AddInterface(changes, *each.face);
+      if (each.events) AddInterface(changes, *each.events);
+    }
+    AddLibrary(changes, file);
+    changes.Commit();
+  });
+}
+
+HRESULT Unregister(Scope scope) noexcept {
+  return Guarded([&] {
+    const ClassesRoot root(scope);
+    for (const Class& each : Classes()) DeleteTree(root.Get(), ClassPath(each));
+    DeleteTree(root.Get(), LocalePath() + L"\\" + kPlatform);
+    const bool otherIsThere = KeyExists(root.Get(), ClassPath(Classes().front()), kOtherView) ||
+                              KeyExists(root.Get(), LocalePath() + L"\\" + kOtherPlatform, View::Own);
+    if (!otherIsThere) RemoveShared(root.Get());
+  });
+}
+
+}  // namespace qm::api
