@@ -67,22 +67,14 @@ std::string Describe(ITypeInfo& info, const TYPEDESC& type) {
     case VT_PTR:
       return Describe(info, *type.lptdesc) + "*";
     case VT_SAFEARRAY:
-<<<<<<< HEAD
       return Joined({"SAFEARRAY(", Describe(info, *type.lptdesc), ")"});
-=======
-      return "SAFEARRAY(" + Describe(info, *type.lptdesc) + ")";
->>>>>>> core
     case VT_USERDEFINED: {
       ComPtr<ITypeInfo> referred;
       return SUCCEEDED(info.GetRefTypeInfo(type.hreftype, &referred)) ? NameOf(*referred.Get())
                                                                       : "unresolved";
     }
     default:
-<<<<<<< HEAD
       return Joined({"vt", std::to_string(type.vt)});
-=======
-      return "vt" + std::to_string(type.vt);
->>>>>>> core
   }
 }
 
@@ -95,13 +87,8 @@ std::string Parameter(ITypeInfo& info, const ELEMDESC& parameter, const std::str
   if (flags & PARAMFLAG_FOPT) text += "optional ";
   if (flags & PARAMFLAG_FHASDEFAULT) {
     const VARIANT& value = parameter.paramdesc.pparamdescex->varDefaultValue;
-<<<<<<< HEAD
     text += value.vt == VT_BSTR ? Joined({"default=\"", Utf8(value.bstrVal ? value.bstrVal : L""), "\" "})
                                 : "default=? ";
-=======
-    text +=
-        "default=" + (value.vt == VT_BSTR ? "\"" + Utf8(value.bstrVal ? value.bstrVal : L"") + "\" " : "?");
->>>>>>> core
   }
   text.back() = ']';
   return Joined({text, " ", Describe(info, parameter.tdesc), name.empty() ? "" : " ", name});
@@ -179,19 +166,10 @@ std::string ListType(ITypeInfo& info) {
   TYPEATTR* attributes = nullptr;
   if (FAILED(info.GetTypeAttr(&attributes))) return "unreadable\n";
   const bool isClass = attributes->typekind == TKIND_COCLASS;
-<<<<<<< HEAD
   const char* kind = isClass ? "class " : attributes->typekind == TKIND_DISPATCH ? "dispatch " : "interface ";
   std::string text =
       Joined({kind, NameOf(info), " ", Text(attributes->guid), " ", std::to_string(attributes->wMajorVerNum),
               ".", std::to_string(attributes->wMinorVerNum), Flags(attributes->wTypeFlags), "\n"});
-=======
-  std::string text = std::string(isClass                                  ? "class "
-                                 : attributes->typekind == TKIND_DISPATCH ? "dispatch "
-                                                                          : "interface ") +
-                     NameOf(info) + " " + Text(attributes->guid) + " " +
-                     std::to_string(attributes->wMajorVerNum) + "." +
-                     std::to_string(attributes->wMinorVerNum) + Flags(attributes->wTypeFlags) + "\n";
->>>>>>> core
   text += isClass ? ListClass(info, *attributes) : ListFunctions(info, *attributes);
   info.ReleaseTypeAttr(attributes);
   return text;
@@ -204,17 +182,10 @@ std::string ListInterface(ITypeLib& library) {
   if (FAILED(library.GetLibAttr(&attributes))) return "unreadable\n";
   BSTR name = nullptr;
   library.GetDocumentation(-1, &name, nullptr, nullptr, nullptr);
-<<<<<<< HEAD
   std::string text =
       Joined({"library ", Utf8(name), " ", Text(attributes->guid), " ",
               std::to_string(attributes->wMajorVerNum), ".", std::to_string(attributes->wMinorVerNum),
               " lcid ", Hex(static_cast<long>(attributes->lcid)).substr(4), "\n"});
-=======
-  std::string text = "library " + Utf8(name) + " " + Text(attributes->guid) + " " +
-                     std::to_string(attributes->wMajorVerNum) + "." +
-                     std::to_string(attributes->wMinorVerNum) + " lcid " +
-                     Hex(static_cast<long>(attributes->lcid)).substr(4) + "\n";
->>>>>>> core
   SysFreeString(name);
   library.ReleaseTLibAttr(attributes);
   for (UINT i = 0; i < library.GetTypeInfoCount(); ++i) {
