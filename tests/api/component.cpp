@@ -7,13 +7,15 @@ Component::~Component() { FreeLibrary(library_); }
 
 HRESULT Component::GetClassObject(REFCLSID classId, REFIID id, void** object) const {
   using Entry = HRESULT(STDAPICALLTYPE*)(REFCLSID, REFIID, void**);
-  const auto entry = reinterpret_cast<Entry>(reinterpret_cast<void*>(GetProcAddress(library_, "DllGetClassObject")));
+  const auto entry =
+      reinterpret_cast<Entry>(reinterpret_cast<void*>(GetProcAddress(library_, "DllGetClassObject")));
   return entry ? entry(classId, id, object) : E_UNEXPECTED;
 }
 
 HRESULT Component::CanUnloadNow() const {
   using Entry = HRESULT(STDAPICALLTYPE*)();
-  const auto entry = reinterpret_cast<Entry>(reinterpret_cast<void*>(GetProcAddress(library_, "DllCanUnloadNow")));
+  const auto entry =
+      reinterpret_cast<Entry>(reinterpret_cast<void*>(GetProcAddress(library_, "DllCanUnloadNow")));
   return entry ? entry() : E_UNEXPECTED;
 }
 
@@ -31,10 +33,11 @@ Outcome Invoke(IDispatch* object, const wchar_t* name, WORD flags, std::vector<V
   std::vector<VARIANTARG> passed(arguments.rbegin(), arguments.rend());
   DISPID put = DISPID_PROPERTYPUT;
   const bool puts = flags & (DISPATCH_PROPERTYPUT | DISPATCH_PROPERTYPUTREF);
-  DISPPARAMS parameters{passed.data(), puts ? &put : nullptr, static_cast<UINT>(passed.size()), puts ? 1u : 0u};
+  DISPPARAMS parameters{passed.data(), puts ? &put : nullptr, static_cast<UINT>(passed.size()),
+                        puts ? 1u : 0u};
   EXCEPINFO exception{};
-  outcome.result = object->Invoke(id, IID_NULL, LOCALE_USER_DEFAULT, flags, &parameters, &outcome.value, &exception,
-                                  &outcome.wrongArgument);
+  outcome.result = object->Invoke(id, IID_NULL, LOCALE_USER_DEFAULT, flags, &parameters, &outcome.value,
+                                  &exception, &outcome.wrongArgument);
   if (outcome.result == DISP_E_EXCEPTION) {
     outcome.error = exception.scode;
     if (exception.bstrDescription) outcome.description = exception.bstrDescription;

@@ -1,10 +1,10 @@
 #pragma once
 // The built component, loaded without registration from beside the test program, and short ways to call it.
 
-#include <windows.h>
 #include <oaidl.h>
 #include <ocidl.h>
 #include <oleauto.h>
+#include <windows.h>
 #include <wrl/client.h>
 
 #include <initializer_list>
@@ -36,12 +36,15 @@ class Component {
   [[nodiscard]] ComPtr<Face> Create(REFCLSID classId, REFIID id) const {
     ComPtr<IClassFactory> factory;
     ComPtr<Face> made;
-    if (SUCCEEDED(GetClassObject(classId, IID_IClassFactory, reinterpret_cast<void**>(factory.GetAddressOf())))) {
+    if (SUCCEEDED(
+            GetClassObject(classId, IID_IClassFactory, reinterpret_cast<void**>(factory.GetAddressOf())))) {
       factory->CreateInstance(nullptr, id, reinterpret_cast<void**>(made.GetAddressOf()));
     }
     return made;
   }
-  [[nodiscard]] ComPtr<_PrintForm> NewPrintForm() const { return Create<_PrintForm>(CLSID_PrintForm, IID__PrintForm); }
+  [[nodiscard]] ComPtr<_PrintForm> NewPrintForm() const {
+    return Create<_PrintForm>(CLSID_PrintForm, IID__PrintForm);
+  }
 
  private:
   HMODULE library_;
@@ -49,7 +52,8 @@ class Component {
 
 class Bstr {
  public:
-  explicit Bstr(std::wstring_view text = {}) : text_(SysAllocStringLen(text.data(), static_cast<UINT>(text.size()))) {}
+  explicit Bstr(std::wstring_view text = {})
+      : text_(SysAllocStringLen(text.data(), static_cast<UINT>(text.size()))) {}
   ~Bstr() { SysFreeString(text_); }
   Bstr(const Bstr&) = delete;
   Bstr& operator=(const Bstr&) = delete;

@@ -48,21 +48,33 @@ std::string NameOf(ITypeInfo& info) {
 
 std::string Describe(ITypeInfo& info, const TYPEDESC& type) {
   switch (type.vt) {
-    case VT_BSTR: return "BSTR";
-    case VT_I2: return "short";
-    case VT_I4: return "long";
-    case VT_BOOL: return "VARIANT_BOOL";
-    case VT_VARIANT: return "VARIANT";
-    case VT_DISPATCH: return "IDispatch*";
-    case VT_HRESULT: return "HRESULT";
-    case VT_VOID: return "void";
-    case VT_PTR: return Describe(info, *type.lptdesc) + "*";
-    case VT_SAFEARRAY: return Joined({"SAFEARRAY(", Describe(info, *type.lptdesc), ")"});
+    case VT_BSTR:
+      return "BSTR";
+    case VT_I2:
+      return "short";
+    case VT_I4:
+      return "long";
+    case VT_BOOL:
+      return "VARIANT_BOOL";
+    case VT_VARIANT:
+      return "VARIANT";
+    case VT_DISPATCH:
+      return "IDispatch*";
+    case VT_HRESULT:
+      return "HRESULT";
+    case VT_VOID:
+      return "void";
+    case VT_PTR:
+      return Describe(info, *type.lptdesc) + "*";
+    case VT_SAFEARRAY:
+      return Joined({"SAFEARRAY(", Describe(info, *type.lptdesc), ")"});
     case VT_USERDEFINED: {
       ComPtr<ITypeInfo> referred;
-      return SUCCEEDED(info.GetRefTypeInfo(type.hreftype, &referred)) ? NameOf(*referred.Get()) : "unresolved";
+      return SUCCEEDED(info.GetRefTypeInfo(type.hreftype, &referred)) ? NameOf(*referred.Get())
+                                                                      : "unresolved";
     }
-    default: return Joined({"vt", std::to_string(type.vt)});
+    default:
+      return Joined({"vt", std::to_string(type.vt)});
   }
 }
 
@@ -75,7 +87,8 @@ std::string Parameter(ITypeInfo& info, const ELEMDESC& parameter, const std::str
   if (flags & PARAMFLAG_FOPT) text += "optional ";
   if (flags & PARAMFLAG_FHASDEFAULT) {
     const VARIANT& value = parameter.paramdesc.pparamdescex->varDefaultValue;
-    text += value.vt == VT_BSTR ? Joined({"default=\"", Utf8(value.bstrVal ? value.bstrVal : L""), "\" "}) : "default=? ";
+    text += value.vt == VT_BSTR ? Joined({"default=\"", Utf8(value.bstrVal ? value.bstrVal : L""), "\" "})
+                                : "default=? ";
   }
   text.back() = ']';
   return Joined({text, " ", Describe(info, parameter.tdesc), name.empty() ? "" : " ", name});
@@ -87,9 +100,12 @@ std::string FunctionLine(ITypeInfo& info, const FUNCDESC& function) {
   info.GetNames(function.memid, names, 8, &count);
   constexpr int kPointer = static_cast<int>(sizeof(void*));
   std::string line = "  ";
-  if (function.funckind == FUNC_DISPATCH) line += "-";
-  else if (function.oVft % kPointer != 0) line += "?";
-  else line += std::to_string(function.oVft / kPointer);
+  if (function.funckind == FUNC_DISPATCH)
+    line += "-";
+  else if (function.oVft % kPointer != 0)
+    line += "?";
+  else
+    line += std::to_string(function.oVft / kPointer);
   const char* kind = function.invkind == INVOKE_PROPERTYGET      ? " get "
                      : function.invkind == INVOKE_PROPERTYPUT    ? " let "
                      : function.invkind == INVOKE_PROPERTYPUTREF ? " set "
@@ -151,8 +167,9 @@ std::string ListType(ITypeInfo& info) {
   if (FAILED(info.GetTypeAttr(&attributes))) return "unreadable\n";
   const bool isClass = attributes->typekind == TKIND_COCLASS;
   const char* kind = isClass ? "class " : attributes->typekind == TKIND_DISPATCH ? "dispatch " : "interface ";
-  std::string text = Joined({kind, NameOf(info), " ", Text(attributes->guid), " ", std::to_string(attributes->wMajorVerNum),
-                             ".", std::to_string(attributes->wMinorVerNum), Flags(attributes->wTypeFlags), "\n"});
+  std::string text =
+      Joined({kind, NameOf(info), " ", Text(attributes->guid), " ", std::to_string(attributes->wMajorVerNum),
+              ".", std::to_string(attributes->wMinorVerNum), Flags(attributes->wTypeFlags), "\n"});
   text += isClass ? ListClass(info, *attributes) : ListFunctions(info, *attributes);
   info.ReleaseTypeAttr(attributes);
   return text;
@@ -165,9 +182,10 @@ std::string ListInterface(ITypeLib& library) {
   if (FAILED(library.GetLibAttr(&attributes))) return "unreadable\n";
   BSTR name = nullptr;
   library.GetDocumentation(-1, &name, nullptr, nullptr, nullptr);
-  std::string text = Joined({"library ", Utf8(name), " ", Text(attributes->guid), " ",
-                             std::to_string(attributes->wMajorVerNum), ".", std::to_string(attributes->wMinorVerNum),
-                             " lcid ", Hex(static_cast<long>(attributes->lcid)).substr(4), "\n"});
+  std::string text =
+      Joined({"library ", Utf8(name), " ", Text(attributes->guid), " ",
+              std::to_string(attributes->wMajorVerNum), ".", std::to_string(attributes->wMinorVerNum),
+              " lcid ", Hex(static_cast<long>(attributes->lcid)).substr(4), "\n"});
   SysFreeString(name);
   library.ReleaseTLibAttr(attributes);
   for (UINT i = 0; i < library.GetTypeInfoCount(); ++i) {

@@ -18,7 +18,8 @@ namespace qm::tests {
 namespace {
 
 constexpr bool kIs64Bit = sizeof(void*) == 8;
-constexpr const char* kMend = "To mend: take the change back, or, before the first release, run tools/regenerate_interface.sh";
+constexpr const char* kMend =
+    "To mend: take the change back, or, before the first release, run tools/regenerate_interface.sh";
 
 std::string FileText(const std::string& path) {
   std::ifstream file(path, std::ios::binary);

@@ -13,7 +13,8 @@ namespace {
 
 SIZE_T PrivateBytes() {
   PROCESS_MEMORY_COUNTERS_EX counters{};
-  GetProcessMemoryInfo(GetCurrentProcess(), reinterpret_cast<PROCESS_MEMORY_COUNTERS*>(&counters), sizeof counters);
+  GetProcessMemoryInfo(GetCurrentProcess(), reinterpret_cast<PROCESS_MEMORY_COUNTERS*>(&counters),
+                       sizeof counters);
   return counters.PrivateUsage;
 }
 
@@ -21,13 +22,16 @@ TEST(Lifetime, TheLibraryMayGoWhenNothingIsHeld) {
   const Component component;
   EXPECT_EQ(component.CanUnloadNow(), S_OK);
   ComPtr<IClassFactory> factory;
-  ASSERT_EQ(component.GetClassObject(CLSID_PrintForm, IID_IClassFactory, reinterpret_cast<void**>(factory.GetAddressOf())),
+  ASSERT_EQ(component.GetClassObject(CLSID_PrintForm, IID_IClassFactory,
+                                     reinterpret_cast<void**>(factory.GetAddressOf())),
             S_OK);
   EXPECT_EQ(component.CanUnloadNow(), S_FALSE);
   EXPECT_EQ(factory->LockServer(TRUE), S_OK);
   factory.Reset();
   EXPECT_EQ(component.CanUnloadNow(), S_FALSE);
-  ASSERT_EQ(component.GetClassObject(CLSID_Email, IID_IClassFactory, reinterpret_cast<void**>(factory.GetAddressOf())), S_OK);
+  ASSERT_EQ(component.GetClassObject(CLSID_Email, IID_IClassFactory,
+                                     reinterpret_cast<void**>(factory.GetAddressOf())),
+            S_OK);
   EXPECT_EQ(factory->LockServer(FALSE), S_OK);
   factory.Reset();
   EXPECT_EQ(component.CanUnloadNow(), S_OK);
@@ -48,7 +52,8 @@ TEST(Lifetime, TheLibraryMayGoWhenNothingIsHeld) {
 TEST(Lifetime, FactoriesRefuseAggregationAndOtherClasses) {
   const Component component;
   ComPtr<IClassFactory> factory;
-  ASSERT_EQ(component.GetClassObject(CLSID_PrintForm, IID_IClassFactory, reinterpret_cast<void**>(factory.GetAddressOf())),
+  ASSERT_EQ(component.GetClassObject(CLSID_PrintForm, IID_IClassFactory,
+                                     reinterpret_cast<void**>(factory.GetAddressOf())),
             S_OK);
   ScriptedDispatch outer;
   void* object = &outer;
@@ -65,8 +70,9 @@ TEST(Lifetime, FactoriesRefuseAggregationAndOtherClasses) {
 TEST(Lifetime, TheIdentityIsOneWhateverInterfaceIsAskedOf) {
   const Component component;
   const auto form = component.NewPrintForm();
-  const IID* const faces[] = {&IID_IUnknown,          &IID_IDispatch,          &IID__PrintForm,
-                              &IID_ISupportErrorInfo, &IID_IProvideClassInfo2, &IID_IConnectionPointContainer};
+  const IID* const faces[] = {&IID_IUnknown,           &IID_IDispatch,
+                              &IID__PrintForm,         &IID_ISupportErrorInfo,
+                              &IID_IProvideClassInfo2, &IID_IConnectionPointContainer};
   ComPtr<IUnknown> identity;
   ASSERT_EQ(form.As(&identity), S_OK);
   for (const IID* from : faces) {

@@ -18,7 +18,8 @@ class Registration : public testing::Test {
  protected:
   Registration() {
     RegDeleteTreeW(HKEY_CURRENT_USER, kPlace);
-    RegCreateKeyExW(HKEY_CURRENT_USER, kPlace, 0, nullptr, 0, KEY_ALL_ACCESS, nullptr, sandbox_.Out(), nullptr);
+    RegCreateKeyExW(HKEY_CURRENT_USER, kPlace, 0, nullptr, 0, KEY_ALL_ACCESS, nullptr, sandbox_.Out(),
+                    nullptr);
     EXPECT_EQ(RegOverridePredefKey(HKEY_LOCAL_MACHINE, sandbox_.Get()), ERROR_SUCCESS);
   }
   ~Registration() override {
@@ -28,7 +29,8 @@ class Registration : public testing::Test {
 
   HRESULT Entry(const char* name) {
     HMODULE library = LoadLibraryW(L"QmModImp3.dll");
-    const auto entry = reinterpret_cast<HRESULT(STDAPICALLTYPE*)()>(reinterpret_cast<void*>(GetProcAddress(library, name)));
+    const auto entry =
+        reinterpret_cast<HRESULT(STDAPICALLTYPE*)()>(reinterpret_cast<void*>(GetProcAddress(library, name)));
     const HRESULT result = entry ? entry() : E_UNEXPECTED;
     FreeLibrary(library);
     return result;
@@ -53,11 +55,14 @@ TEST_F(Registration, WritesTheClassesTheirNamesInterfacesAndTheTypeLibrary) {
   EXPECT_EQ(Text(path + L"\\TypeLib"), L"{C4035D2F-442D-4F35-B9A1-738BDF581516}");
   const std::wstring file = Text(path + L"\\InprocServer32");
   EXPECT_NE(file.find(L"QmModImp3.dll"), std::wstring::npos);
-  EXPECT_EQ(Text(L"Software\\Classes\\Qm_Modelo_Impresion3.Email\\Clsid"), L"{B3888D0E-57CE-49A1-953B-B72E90C36D7D}");
+  EXPECT_EQ(Text(L"Software\\Classes\\Qm_Modelo_Impresion3.Email\\Clsid"),
+            L"{B3888D0E-57CE-49A1-953B-B72E90C36D7D}");
   EXPECT_EQ(Text(L"Software\\Classes\\Interface\\{8889E8E6-5DA6-4A77-9D55-DB88CA3412FA}"), L"_PrintForm");
   const wchar_t* platform = sizeof(void*) == 8 ? L"win64" : L"win32";
-  EXPECT_EQ(Text(std::wstring(L"Software\\Classes\\TypeLib\\{C4035D2F-442D-4F35-B9A1-738BDF581516}\\1.0\\409\\") + platform),
-            file);
+  EXPECT_EQ(
+      Text(std::wstring(L"Software\\Classes\\TypeLib\\{C4035D2F-442D-4F35-B9A1-738BDF581516}\\1.0\\409\\") +
+           platform),
+      file);
 }
 
 TEST_F(Registration, LeavesNothingAfterUnregistering) {
@@ -75,14 +80,15 @@ TEST_F(Registration, LeavesNothingAfterUnregistering) {
 TEST_F(Registration, ThatCannotBeFinishedIsUndone) {
   // A volatile key takes no lasting keys below it: registering the type library fails, after the classes.
   RegistryKey classes, libraries;
-  RegCreateKeyExW(sandbox_.Get(), L"Software\\Classes", 0, nullptr, 0, KEY_ALL_ACCESS, nullptr, classes.Out(), nullptr);
-  ASSERT_EQ(RegCreateKeyExW(classes.Get(), L"TypeLib", 0, nullptr, REG_OPTION_VOLATILE, KEY_ALL_ACCESS, nullptr,
-                            libraries.Out(), nullptr),
+  RegCreateKeyExW(sandbox_.Get(), L"Software\\Classes", 0, nullptr, 0, KEY_ALL_ACCESS, nullptr, classes.Out(),
+                  nullptr);
+  ASSERT_EQ(RegCreateKeyExW(classes.Get(), L"TypeLib", 0, nullptr, REG_OPTION_VOLATILE, KEY_ALL_ACCESS,
+                            nullptr, libraries.Out(), nullptr),
             ERROR_SUCCESS);
   EXPECT_EQ(Entry("DllRegisterServer"), HRESULT_FROM_WIN32(ERROR_CHILD_MUST_BE_VOLATILE));
   DWORD keys = 9;
-  RegQueryInfoKeyW(classes.Get(), nullptr, nullptr, nullptr, &keys, nullptr, nullptr, nullptr, nullptr, nullptr, nullptr,
-                   nullptr);
+  RegQueryInfoKeyW(classes.Get(), nullptr, nullptr, nullptr, &keys, nullptr, nullptr, nullptr, nullptr,
+                   nullptr, nullptr, nullptr);
   EXPECT_EQ(keys, 1u);  // the volatile one
 }
 

@@ -22,7 +22,8 @@ class Registry : public testing::Test {
     return read == ERROR_SUCCESS ? text : L"none";
   }
   void Set(const wchar_t* path, DWORD type, const std::wstring& text) {
-    RegSetKeyValueW(root_.Get(), path, nullptr, type, text.c_str(), static_cast<DWORD>((text.size() + 1) * 2));
+    RegSetKeyValueW(root_.Get(), path, nullptr, type, text.c_str(),
+                    static_cast<DWORD>((text.size() + 1) * 2));
   }
 
   static constexpr const wchar_t* kPlace = L"Software\\QmModImp3 registry test";

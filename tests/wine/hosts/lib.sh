@@ -14,7 +14,7 @@ component() {
 # expect_good_run PROGRAM ARGS...: a host that says at its end that everything was as expected.
 expect_good_run() {
   local output status=0
-  output=$($QM_RUN "$@" 2>&1 | tr -d '\r') || status=$?
+  output=$(run "$@" 2>&1 | tr -d '\r') || status=$?
   [ $status -ne 77 ] || { echo "$output"; exit 77; }
   if [ $status -ne 0 ] || [ "$(tail -1 <<<"$output")" != "host finished: everything as expected" ]; then
     fail "exit code $status; output: ${output:-none}"

@@ -11,7 +11,8 @@ if [ "$how" = registered ]; then
 else
   # Nothing is registered where this runs.
   use_prefix unregistered
-  case $QM_RUN in *--win32*) architecture=x86 ;; *) architecture=x64 ;; esac
+  architecture=x64
+  [ "$QM_RUN_FLAGS" != --win32 ] || architecture=x86
   cp "$QM_SOURCE_DIR/packaging/QmModImp3.$architecture.manifest" "$QM_BINARY_DIR/QmModImp3.dll" "$QM_SCRATCH/"
   arguments+=("$(windows_path "$QM_SCRATCH/QmModImp3.$architecture.manifest")" "$(windows_path "$QM_SCRATCH")")
 fi

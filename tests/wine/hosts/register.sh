@@ -3,5 +3,5 @@
 source "$(dirname "$0")/lib.sh"
 use_prefix hosts
 status=0
-$QM_RUN regsvr32 /s "$(component)" || status=$?
+run regsvr32 /s "$(component)" || status=$?
 [ $status -eq 0 ] || exit $status

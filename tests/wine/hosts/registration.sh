@@ -20,13 +20,15 @@ dump() {
 }
 
 # works64, works86: a host of that bitness prints.
-works64() { QM_RUN="$wine_run" QM_BINARY_DIR=$(dirname "$x64") host; }
-works86() { QM_RUN="$wine_run --win32" QM_BINARY_DIR=$(dirname "$x86") host; }
+works64() { QM_RUN_FLAGS="" host; }
+works86() { QM_RUN_FLAGS=--win32 host; }
 host() { expect_good_run cscript //nologo "$(windows_path "$hosts/host.js")" "$(windows_path "$hosts/modelos.xml")"; }
 fails() { (works"$1") >/dev/null 2>&1 && fail "the $1-bit component still works" || true; }
 
 regsvr64 /u || true  # what an earlier, broken run may have left
 regsvr86 /u || true
+fails 64  # and the script engines have made their own entries
+fails 86
 dump before
 
 regsvr64

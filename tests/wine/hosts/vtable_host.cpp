@@ -1,9 +1,9 @@
-// vtable_host MODELFILE [MANIFEST FOLDER]: a host that was compiled long ago. It knows the component's vtable by the
-// numbers of its places alone, from its own list and not from the component's headers.
+// vtable_host MODELFILE [MANIFEST FOLDER]: a host that was compiled long ago. It knows the component's vtable
+// by the numbers of its places alone, from its own list and not from the component's headers.
 
-#include <windows.h>
 #include <objbase.h>
 #include <oleauto.h>
+#include <windows.h>
 
 #include <cwchar>
 #include <initializer_list>
@@ -71,9 +71,15 @@ void CheckFields(void* form, hosts::Expectations& expect) {
     expect.Result(field.name, S_OK, late->GetIDsOfNames(IID_NULL, &asked, 1, 0, &id));
     BSTR text = SysAllocString(name);
     switch (field.holds) {
-      case Holds::Text: expect.Result(field.name, S_OK, At(form, field.get + 1, text)); break;
-      case Holds::Long: expect.Result(field.name, S_OK, At(form, field.get + 1, LONG{field.get})); break;
-      case Holds::Boolean: expect.Result(field.name, S_OK, At(form, field.get + 1, VARIANT_BOOL{VARIANT_TRUE})); break;
+      case Holds::Text:
+        expect.Result(field.name, S_OK, At(form, field.get + 1, text));
+        break;
+      case Holds::Long:
+        expect.Result(field.name, S_OK, At(form, field.get + 1, LONG{field.get}));
+        break;
+      case Holds::Boolean:
+        expect.Result(field.name, S_OK, At(form, field.get + 1, VARIANT_BOOL{VARIANT_TRUE}));
+        break;
     }
     DISPPARAMS none{};
     VARIANT value{};
@@ -124,7 +130,8 @@ void CheckModelNumber(void* form, hosts::Expectations& expect) {
 
 void Print(void* form, const wchar_t* modelFile, hosts::Expectations& expect) {
   BSTR file = SysAllocString(modelFile), read = nullptr, name = SysAllocString(L"CLIENTE");
-  BSTR table = SysAllocString(L"FACTU"), column = SysAllocString(L"IMPORTE (FACTU)"), amount = SysAllocString(L"7.25");
+  BSTR table = SysAllocString(L"FACTU"), column = SysAllocString(L"IMPORTE (FACTU)"),
+       amount = SysAllocString(L"7.25");
   SHORT kind = 3;
   VARIANT value{};
   value.vt = VT_BSTR;
@@ -177,11 +184,13 @@ void CheckActionsToCome(void* form, hosts::Expectations& expect) {
 int wmain(int count, wchar_t** arguments) {
   if (count != 2 && count != 4) return 2;
   hosts::Expectations expect;
-  const hosts::ActivationContext context(count == 4 ? arguments[2] : nullptr, count == 4 ? arguments[3] : nullptr);
+  const hosts::ActivationContext context(count == 4 ? arguments[2] : nullptr,
+                                         count == 4 ? arguments[3] : nullptr);
   expect.True("activation context", context.Active() == (count == 4));
   CoInitializeEx(nullptr, COINIT_APARTMENTTHREADED);
   void* form = nullptr;
-  expect.Result("create", S_OK, CoCreateInstance(kPrintForm, nullptr, CLSCTX_INPROC_SERVER, kPrintFormFace, &form));
+  expect.Result("create", S_OK,
+                CoCreateInstance(kPrintForm, nullptr, CLSCTX_INPROC_SERVER, kPrintFormFace, &form));
   if (form) {
     CheckFields(form, expect);
     CheckModelNumber(form, expect);
