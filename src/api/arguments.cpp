@@ -13,6 +13,11 @@ namespace {
 using runtime::ErrorNumber;
 using runtime::RuntimeError;
 
+RuntimeError Missing() { return {449, u"Argumento no opcional"}; }
+RuntimeError WrongCount() {
+  return {450, u"Número de argumentos incorrecto o asignación de propiedad no válida"};
+}
+
 VARTYPE VariantTypeOf(Type type) {
   switch (type) {
     case Type::Text:
@@ -117,35 +122,35 @@ Arguments::Argument& Arguments::Add(VARTYPE type) {
 }
 
 // Sorts positional and named arguments into the order of the parameters.
-HRESULT Arguments::Place(const Function& function, const DISPPARAMS& passed,
-                         std::array<const VARIANT*, kMostParameters>& given) {
+void Arguments::Place(const Function& function, const DISPPARAMS& passed,
+                      std::array<const VARIANT*, kMostParameters>& given) {
   const std::size_t most = function.access == Access::Call  ? function.member->ParameterCount()
                            : function.access == Access::Get ? 0
                                                             : 1;
-  if (passed.cArgs > most || passed.cNamedArgs > passed.cArgs) return DISP_E_BADPARAMCOUNT;
-  if (passed.cArgs > 0 && !passed.rgvarg) return E_INVALIDARG;
+  if (passed.cArgs > most || passed.cNamedArgs > passed.cArgs) throw WrongCount();
+  if (passed.cArgs > 0) Required(passed.rgvarg);
+  if (passed.cNamedArgs > 0) Required(passed.rgdispidNamedArgs);
   for (UINT i = passed.cNamedArgs; i < passed.cArgs; ++i) given[passed.cArgs - 1 - i] = &passed.rgvarg[i];
   for (UINT i = 0; i < passed.cNamedArgs; ++i) {
     DISPID id = passed.rgdispidNamedArgs[i];
     if (id == DISPID_PROPERTYPUT && function.access != Access::Call) id = 0;
     wrong_ = i;
     if (id < 0 || static_cast<std::size_t>(id) >= most || given[static_cast<std::size_t>(id)]) {
-      return DISP_E_PARAMNOTFOUND;
+      throw RuntimeError(448, u"No se encontró el argumento con nombre");
     }
     given[static_cast<std::size_t>(id)] = &passed.rgvarg[i];
   }
-  return S_OK;
 }
 
-HRESULT Arguments::Take(const Function& function, const DISPPARAMS& passed) {
+void Arguments::Take(const Function& function, const DISPPARAMS& passed) {
   std::array<const VARIANT*, kMostParameters> given{};
-  if (const HRESULT placed = Place(function, passed, given); FAILED(placed)) return placed;
+  Place(function, passed, given);
   const Member& member = *function.member;
   if (function.access == Access::Let || function.access == Access::Set) {
-    if (!given[0]) return DISP_E_PARAMNOTOPTIONAL;
+    if (!given[0]) throw Missing();
     wrong_ = 0;
     TakeValue(*given[0], member.type, Add(VariantTypeOf(member.type)));
-    return S_OK;
+    return;
   }
   for (std::size_t i = 0; i < member.ParameterCount(); ++i) {
     const Parameter& parameter = member.parameters[i];
@@ -157,10 +162,9 @@ HRESULT Arguments::Take(const Function& function, const DISPPARAMS& passed) {
       const VARIANT nothing{};
       TakeReference(nothing, parameter.type, argument);
     } else {
-      return DISP_E_PARAMNOTOPTIONAL;
+      throw Missing();
     }
   }
-  return S_OK;
 }
 
 void Arguments::TakeReference(const VARIANT& source, Type type, Argument& argument) {

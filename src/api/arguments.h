@@ -15,9 +15,9 @@ namespace qm::api {
 
 class Arguments {
  public:
-  // DISP_E_BADPARAMCOUNT, DISP_E_PARAMNOTFOUND and DISP_E_PARAMNOTOPTIONAL come back; a failed conversion is
-  // thrown.
-  [[nodiscard]] HRESULT Take(const Function& function, const DISPPARAMS& passed);
+  // Errors: 448 for a name that no parameter has, 449 for a missing argument, 450 for too many; 13, 6 and 94
+  // for values.
+  void Take(const Function& function, const DISPPARAMS& passed);
   void AddResult(const Function& function, OwnedVariant& returned);
   // After the call: what it changed in converted copies goes to the host's variables.
   void GiveBack() noexcept;
@@ -38,8 +38,8 @@ class Arguments {
     LONG numberBefore = 0;
   };
 
-  [[nodiscard]] HRESULT Place(const Function& function, const DISPPARAMS& passed,
-                              std::array<const VARIANT*, kMostParameters>& given);
+  void Place(const Function& function, const DISPPARAMS& passed,
+             std::array<const VARIANT*, kMostParameters>& given);
   void TakeReference(const VARIANT& source, Type type, Argument& argument);
   void TakeScalarReference(const VARIANT& source, VARTYPE type, Argument& argument);
   void TakeValue(const VARIANT& source, Type type, Argument& argument);

@@ -13,9 +13,6 @@ namespace qm::api {
 
 namespace {
 
-using runtime::ErrorNumber;
-using runtime::RuntimeError;
-
 bool SameName(std::u16string_view name, const OLECHAR* asked) {
   return CompareStringOrdinal(reinterpret_cast<const OLECHAR*>(name.data()), static_cast<int>(name.size()),
                               asked, -1, TRUE) == CSTR_EQUAL;
@@ -109,16 +106,10 @@ HRESULT InvokeMember(const Interface& face, IDispatch& object, DISPID id, WORD f
   if (result) VariantInit(result);
   Arguments arguments;
   try {
-    if (const HRESULT taken = arguments.Take(*function, *passed); FAILED(taken)) {
-      if (wrongArgument) *wrongArgument = arguments.Wrong();
-      return taken;
-    }
+    arguments.Take(*function, *passed);
   } catch (...) {
     if (wrongArgument) *wrongArgument = arguments.Wrong();
-    const HRESULT failure = ReportCurrentException(face.id);
-    if (failure == ResultOf(static_cast<int>(ErrorNumber::TypeMismatch))) return DISP_E_TYPEMISMATCH;
-    if (failure == ResultOf(static_cast<int>(ErrorNumber::Overflow))) return DISP_E_OVERFLOW;
-    return AsException(failure, exception);
+    return AsException(ReportCurrentException(face.id), exception);
   }
   const HRESULT called = Call(object, *function, arguments, result);
   return FAILED(called) ? AsException(called, exception) : S_OK;

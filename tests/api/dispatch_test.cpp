@@ -118,25 +118,28 @@ TEST_F(LateBound, NamedArgumentsComeInAnyOrder) {
       S_OK);
   EXPECT_EQ(FieldOf(outcome, L"Campo"), L"CON NOMBRE");
   EXPECT_EQ(FieldOf(outcome, L"Valor"), L"5");
-  names[1] = 1;  // twice the same
-  EXPECT_EQ(form_->Invoke(0x6003000E, IID_NULL, 0, DISPATCH_METHOD, &parameters, nullptr, nullptr, nullptr),
-            DISP_E_PARAMNOTFOUND);
-  names[1] = 7;
-  EXPECT_EQ(form_->Invoke(0x6003000E, IID_NULL, 0, DISPATCH_METHOD, &parameters, nullptr, nullptr, nullptr),
-            DISP_E_PARAMNOTFOUND);
+  for (const DISPID id : {1, 7}) {  // twice the same, none of that number
+    names[1] = id;
+    EXCEPINFO exception{};
+    EXPECT_EQ(
+        form_->Invoke(0x6003000E, IID_NULL, 0, DISPATCH_METHOD, &parameters, nullptr, &exception, nullptr),
+        DISP_E_EXCEPTION);
+    EXPECT_EQ(exception.scode, RuntimeResult(448));
+    SysFreeString(exception.bstrDescription);
+    SysFreeString(exception.bstrSource);
+  }
 }
 
 TEST_F(LateBound, WrongCountsOfArgumentsAreErrors) {
-  EXPECT_EQ(Call(form_.Get(), L"AsignarCampo").result, DISP_E_PARAMNOTOPTIONAL);
-  EXPECT_EQ(Call(form_.Get(), L"AsignarCampo", {Value(L"X")}).result, DISP_E_PARAMNOTOPTIONAL);
-  EXPECT_EQ(Call(form_.Get(), L"AsignarCampo", {Value(L"X"), Value(1L), Value(2L)}).result,
-            DISP_E_BADPARAMCOUNT);
-  EXPECT_EQ(Call(form_.Get(), L"AsignarCampo", {Value(L"X"), Value::Missing()}).result,
-            DISP_E_PARAMNOTOPTIONAL);
+  EXPECT_EQ(Call(form_.Get(), L"AsignarCampo").error, RuntimeResult(449));
+  EXPECT_EQ(Call(form_.Get(), L"AsignarCampo", {Value(L"X")}).error, RuntimeResult(449));
+  EXPECT_EQ(Call(form_.Get(), L"AsignarCampo", {Value(L"X"), Value(1L), Value(2L)}).error,
+            RuntimeResult(450));
+  EXPECT_EQ(Call(form_.Get(), L"AsignarCampo", {Value(L"X"), Value::Missing()}).error, RuntimeResult(449));
   EXPECT_EQ(Call(form_.Get(), L"AsignarCampo", {Value::Missing(), Value(1L)}).wrongArgument, 1u);
-  EXPECT_EQ(Call(form_.Get(), L"ImprimirModelo", {Value(1L)}).result, DISP_E_BADPARAMCOUNT);
-  EXPECT_EQ(Invoke(form_.Get(), L"eDir", DISPATCH_PROPERTYPUT).result, DISP_E_BADPARAMCOUNT);
-  EXPECT_EQ(Invoke(form_.Get(), L"eDir", DISPATCH_PROPERTYGET, {Value(1L)}).result, DISP_E_BADPARAMCOUNT);
+  EXPECT_EQ(Call(form_.Get(), L"ImprimirModelo", {Value(1L)}).error, RuntimeResult(450));
+  EXPECT_EQ(Invoke(form_.Get(), L"eDir", DISPATCH_PROPERTYPUT).error, RuntimeResult(450));
+  EXPECT_EQ(Invoke(form_.Get(), L"eDir", DISPATCH_PROPERTYGET, {Value(1L)}).error, RuntimeResult(450));
   EXPECT_EQ(form_->Invoke(0x6003000E, IID_NULL, 0, DISPATCH_METHOD, nullptr, nullptr, nullptr, nullptr),
             E_INVALIDARG);
   EXPECT_EQ(form_->Invoke(0x12345678, IID_NULL, 0, DISPATCH_METHOD, nullptr, nullptr, nullptr, nullptr),
@@ -151,21 +154,20 @@ TEST_F(LateBound, WrongCountsOfArgumentsAreErrors) {
 TEST_F(LateBound, WrongTypesAreErrors) {
   const Outcome wrong =
       Call(form_.Get(), L"AñadirCampoTabla", {Value(L"T"), Value(L"C"), Value(L"V"), Value(L"tres")});
-  EXPECT_EQ(wrong.result, DISP_E_TYPEMISMATCH);
+  EXPECT_EQ(wrong.error, RuntimeResult(13));
   EXPECT_EQ(wrong.wrongArgument, 0u);
   EXPECT_EQ(
-      Call(form_.Get(), L"AñadirCampoTabla", {Value(L"T"), Value(L"C"), Value(L"V"), Value(40000L)}).result,
-      DISP_E_OVERFLOW);
-  EXPECT_EQ(Put(form_.Get(), L"SMTPPort", Value(L"puerto")).result, DISP_E_TYPEMISMATCH);
-  EXPECT_EQ(Put(form_.Get(), L"SMTPPort", Value(3e9)).result, DISP_E_OVERFLOW);
+      Call(form_.Get(), L"AñadirCampoTabla", {Value(L"T"), Value(L"C"), Value(L"V"), Value(40000L)}).error,
+      RuntimeResult(6));
+  EXPECT_EQ(Put(form_.Get(), L"SMTPPort", Value(L"puerto")).error, RuntimeResult(13));
+  EXPECT_EQ(Put(form_.Get(), L"SMTPPort", Value(3e9)).error, RuntimeResult(6));
   const Outcome null = Put(form_.Get(), L"eDir", Value::Null());
   EXPECT_EQ(null.result, DISP_E_EXCEPTION);
   EXPECT_EQ(null.error, RuntimeResult(94));
-  EXPECT_EQ(Call(form_.Get(), L"AsignarDatosTablaQmF", {Value(L"no object")}).result, DISP_E_TYPEMISMATCH);
-  EXPECT_EQ(Call(form_.Get(), L"AsignarDatosTablaQmF", {Value(form_.Get())}).result, DISP_E_TYPEMISMATCH);
-  EXPECT_EQ(
-      Call(form_.Get(), L"AsignarDatosTabla", {Value(L"T"), Value(1L), Value(L"x"), Value(L"y")}).result,
-      DISP_E_TYPEMISMATCH);
+  EXPECT_EQ(Call(form_.Get(), L"AsignarDatosTablaQmF", {Value(L"no object")}).error, RuntimeResult(13));
+  EXPECT_EQ(Call(form_.Get(), L"AsignarDatosTablaQmF", {Value(form_.Get())}).error, RuntimeResult(13));
+  EXPECT_EQ(Call(form_.Get(), L"AsignarDatosTabla", {Value(L"T"), Value(1L), Value(L"x"), Value(L"y")}).error,
+            RuntimeResult(13));
 }
 
 TEST_F(LateBound, ErrorsReachTheHostWithNumberTextAndSource) {
@@ -184,7 +186,7 @@ TEST_F(LateBound, TheOptionalProfileMayBeMissing) {
   EXPECT_EQ(Call(email.Get(), L"LeerPerfiles", {Value(0L)}).error, RuntimeResult(445));
   EXPECT_EQ(Call(email.Get(), L"LeerPerfiles", {Value(0L), Value::Missing()}).error, RuntimeResult(445));
   EXPECT_EQ(Call(email.Get(), L"LeerPerfiles", {Value(0L), Value(L"Ventas")}).error, RuntimeResult(445));
-  EXPECT_EQ(Call(email.Get(), L"LeerPerfiles").result, DISP_E_PARAMNOTOPTIONAL);
+  EXPECT_EQ(Call(email.Get(), L"LeerPerfiles").error, RuntimeResult(449));
 }
 
 }  // namespace
