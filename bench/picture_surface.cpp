@@ -27,7 +27,7 @@ int main() {
     GdiFlush();
   };
   const std::vector<double> times = bench::FastestTurns(40, {surface, raw});
-  std::printf("picture surface %.2f ms, plain calls %.2f ms, ratio %.2f (goal: at most 1.15)\n", times[0], times[1],
-              times[0] / times[1]);
+  std::printf("picture surface %.2f ms, plain calls %.2f ms, ratio %.2f (goal: at most 1.15)\n", times[0],
+              times[1], times[0] / times[1]);
   return 0;
 }

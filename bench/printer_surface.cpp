@@ -35,7 +35,8 @@ int wmain(int argc, wchar_t** argv) {
   const std::u16string device =
       argc > 1 ? platform::win32::Text(argv[1]) : printers.OpenDefault()->DeviceName();
   const int dotsPerInch = [&] {
-    const platform::win32::OwnedDc dc(CreateDCW(L"WINSPOOL", platform::win32::Wide(device), nullptr, nullptr));
+    const platform::win32::OwnedDc dc(
+        CreateDCW(L"WINSPOOL", platform::win32::Wide(device), nullptr, nullptr));
     return GetDeviceCaps(dc.Get(), LOGPIXELSX);
   }();
   const std::vector<bench::SceneField> scene = bench::Scene();

@@ -53,12 +53,16 @@ class RawScene {
  private:
   using Fonts = std::vector<std::pair<platform::Font, platform::win32::OwnedFont>>;
 
-  [[nodiscard]] int Units(double twips) const { return static_cast<int>(std::lround(twips * dotsPerInch_ / 1440)); }
+  [[nodiscard]] int Units(double twips) const {
+    return static_cast<int>(std::lround(twips * dotsPerInch_ / 1440));
+  }
 
   void Draw(HDC dc, const SceneField& field, Fonts& fonts) const {
-    auto known = std::find_if(fonts.begin(), fonts.end(), [&](const auto& entry) { return entry.first == field.font; });
+    auto known = std::find_if(fonts.begin(), fonts.end(),
+                              [&](const auto& entry) { return entry.first == field.font; });
     if (known == fonts.end()) {
-      fonts.emplace_back(field.font, platform::win32::OwnedFont(MakeFont(field.font, dotsPerInch_, quality_)));
+      fonts.emplace_back(field.font,
+                         platform::win32::OwnedFont(MakeFont(field.font, dotsPerInch_, quality_)));
       known = fonts.end() - 1;
     }
     SelectObject(dc, known->second.Get());

@@ -23,7 +23,7 @@ struct SceneField {
 };
 
 inline std::u16string SceneText(int number) {
-  constexpr std::u16string_view kWords[] = {u"1.234,", u"Señor",  u"Ref.", u"Fra.nº",
+  constexpr std::u16string_view kWords[] = {u"1.234,",  u"Señor", u"Ref.", u"Fra.nº",
                                             u"97.531,", u"Peña",  u"Cía.", u"€"};
   const std::u16string digits = {static_cast<char16_t>(u'0' + number / 10),
                                  static_cast<char16_t>(u'0' + number % 10)};

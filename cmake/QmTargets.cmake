@@ -12,6 +12,9 @@ add_library(qm_settings INTERFACE)
 target_compile_features(qm_settings INTERFACE cxx_std_20)
 target_include_directories(qm_settings INTERFACE "${CMAKE_SOURCE_DIR}/src")
 target_compile_options(qm_settings INTERFACE -Wall -Wextra -Wconversion -Wno-unknown-pragmas)
+if(CMAKE_CXX_COMPILER_ID STREQUAL GNU AND CMAKE_CXX_COMPILER_VERSION VERSION_LESS 13)
+  target_compile_options(qm_settings INTERFACE -Wno-restrict)  # false alarms on "literal" + std::string
+endif()
 if(WIN32)
   target_compile_definitions(qm_settings INTERFACE UNICODE _UNICODE NOMINMAX WIN32_LEAN_AND_MEAN
                                                    _WIN32_WINNT=0x0A00)

@@ -13,20 +13,33 @@ namespace {
 using runtime::ErrorNumber;
 using runtime::RuntimeError;
 
+RuntimeError Missing() { return {449, u"Argumento no opcional"}; }
+RuntimeError WrongCount() {
+  return {450, u"Número de argumentos incorrecto o asignación de propiedad no válida"};
+}
+
 VARTYPE VariantTypeOf(Type type) {
   switch (type) {
-    case Type::Text: return VT_BSTR;
-    case Type::Integer: return VT_I2;
-    case Type::Long: return VT_I4;
-    case Type::Boolean: return VT_BOOL;
-    case Type::Variant: return VT_VARIANT;
+    case Type::Text:
+      return VT_BSTR;
+    case Type::Integer:
+      return VT_I2;
+    case Type::Long:
+      return VT_I4;
+    case Type::Boolean:
+      return VT_BOOL;
+    case Type::Variant:
+      return VT_VARIANT;
     case Type::Dispatch:
     case Type::Campos:
     case Type::Tablas:
-    case Type::RecordFile: return VT_DISPATCH;
+    case Type::RecordFile:
+      return VT_DISPATCH;
     case Type::TextArray:
-    case Type::IntegerArray: return VT_ARRAY;
-    case Type::None: break;
+    case Type::IntegerArray:
+      return VT_ARRAY;
+    case Type::None:
+      break;
   }
   return VT_EMPTY;
 }
@@ -53,12 +66,16 @@ SAFEARRAY** ArrayOf(const VARIANT& source) {
 IUnknown* ObjectOf(const VARIANT& source) {
   const VARIANT& value = Inner(source);
   switch (value.vt) {
-    case VT_EMPTY: return nullptr;
+    case VT_EMPTY:
+      return nullptr;
     case VT_DISPATCH:
-    case VT_UNKNOWN: return value.punkVal;
+    case VT_UNKNOWN:
+      return value.punkVal;
     case VT_BYREF | VT_DISPATCH:
-    case VT_BYREF | VT_UNKNOWN: return value.ppunkVal ? *value.ppunkVal : nullptr;
-    default: throw RuntimeError(ErrorNumber::TypeMismatch);
+    case VT_BYREF | VT_UNKNOWN:
+      return value.ppunkVal ? *value.ppunkVal : nullptr;
+    default:
+      throw RuntimeError(ErrorNumber::TypeMismatch);
   }
 }
 
@@ -78,11 +95,19 @@ void StoreThrough(const VARIANT& reference, const VARIANT& value) noexcept {
       *reference.pbstrVal = converted.bstrVal;
       break;
     case VT_I2:
-    case VT_BOOL: *reference.piVal = converted.iVal; break;
+    case VT_BOOL:
+      *reference.piVal = converted.iVal;
+      break;
     case VT_I4:
-    case VT_INT: *reference.plVal = converted.lVal; break;
-    case VT_R8: *reference.pdblVal = converted.dblVal; break;
-    default: VariantClear(&converted); break;
+    case VT_INT:
+      *reference.plVal = converted.lVal;
+      break;
+    case VT_R8:
+      *reference.pdblVal = converted.dblVal;
+      break;
+    default:
+      VariantClear(&converted);
+      break;
   }
 }
 
@@ -97,35 +122,35 @@ Arguments::Argument& Arguments::Add(VARTYPE type) {
 }
 
 // Sorts positional and named arguments into the order of the parameters.
-HRESULT Arguments::Place(const Function& function, const DISPPARAMS& passed,
-                         std::array<const VARIANT*, kMostParameters>& given) {
-  const std::size_t most = function.access == Access::Call ? function.member->ParameterCount()
+void Arguments::Place(const Function& function, const DISPPARAMS& passed,
+                      std::array<const VARIANT*, kMostParameters>& given) {
+  const std::size_t most = function.access == Access::Call  ? function.member->ParameterCount()
                            : function.access == Access::Get ? 0
                                                             : 1;
-  if (passed.cArgs > most || passed.cNamedArgs > passed.cArgs) return DISP_E_BADPARAMCOUNT;
-  if (passed.cArgs > 0 && !passed.rgvarg) return E_INVALIDARG;
+  if (passed.cArgs > most || passed.cNamedArgs > passed.cArgs) throw WrongCount();
+  if (passed.cArgs > 0) Required(passed.rgvarg);
+  if (passed.cNamedArgs > 0) Required(passed.rgdispidNamedArgs);
   for (UINT i = passed.cNamedArgs; i < passed.cArgs; ++i) given[passed.cArgs - 1 - i] = &passed.rgvarg[i];
   for (UINT i = 0; i < passed.cNamedArgs; ++i) {
     DISPID id = passed.rgdispidNamedArgs[i];
     if (id == DISPID_PROPERTYPUT && function.access != Access::Call) id = 0;
     wrong_ = i;
     if (id < 0 || static_cast<std::size_t>(id) >= most || given[static_cast<std::size_t>(id)]) {
-      return DISP_E_PARAMNOTFOUND;
+      throw RuntimeError(448, u"No se encontró el argumento con nombre");
     }
     given[static_cast<std::size_t>(id)] = &passed.rgvarg[i];
   }
-  return S_OK;
 }
 
-HRESULT Arguments::Take(const Function& function, const DISPPARAMS& passed) {
+void Arguments::Take(const Function& function, const DISPPARAMS& passed) {
   std::array<const VARIANT*, kMostParameters> given{};
-  if (const HRESULT placed = Place(function, passed, given); FAILED(placed)) return placed;
+  Place(function, passed, given);
   const Member& member = *function.member;
   if (function.access == Access::Let || function.access == Access::Set) {
-    if (!given[0]) return DISP_E_PARAMNOTOPTIONAL;
+    if (!given[0]) throw Missing();
     wrong_ = 0;
     TakeValue(*given[0], member.type, Add(VariantTypeOf(member.type)));
-    return S_OK;
+    return;
   }
   for (std::size_t i = 0; i < member.ParameterCount(); ++i) {
     const Parameter& parameter = member.parameters[i];
@@ -137,30 +162,35 @@ HRESULT Arguments::Take(const Function& function, const DISPPARAMS& passed) {
       const VARIANT nothing{};
       TakeReference(nothing, parameter.type, argument);
     } else {
-      return DISP_E_PARAMNOTOPTIONAL;
+      throw Missing();
     }
   }
-  return S_OK;
 }
 
 void Arguments::TakeReference(const VARIANT& source, Type type, Argument& argument) {
   switch (type) {
-    case Type::Variant: argument.passed.byref = const_cast<VARIANT*>(&Inner(source)); break;
+    case Type::Variant:
+      argument.passed.byref = const_cast<VARIANT*>(&Inner(source));
+      break;
     case Type::TextArray:
-    case Type::IntegerArray: argument.passed.byref = ArrayOf(source); break;
+    case Type::IntegerArray:
+      argument.passed.byref = ArrayOf(source);
+      break;
     case Type::RecordFile: {
       argument.converted->vt = VT_UNKNOWN;
       argument.converted->punkVal = nullptr;
       IUnknown* object = ObjectOf(source);
-      if (object && FAILED(object->QueryInterface(
-                        kRecordFileInterface, reinterpret_cast<void**>(&argument.converted->punkVal)))) {
+      if (object && FAILED(object->QueryInterface(kRecordFileInterface,
+                                                  reinterpret_cast<void**>(&argument.converted->punkVal)))) {
         argument.converted->punkVal = nullptr;
         throw RuntimeError(ErrorNumber::TypeMismatch);
       }
       argument.passed.byref = &argument.converted->punkVal;
       break;
     }
-    default: TakeScalarReference(source, VariantTypeOf(type), argument); break;
+    default:
+      TakeScalarReference(source, VariantTypeOf(type), argument);
+      break;
   }
   argument.passed.vt = VT_BYREF;
 }
@@ -176,8 +206,10 @@ void Arguments::TakeScalarReference(const VARIANT& source, VARTYPE type, Argumen
   argument.passed.byref = &argument.converted->byref;  // the members of the union share their address
   if (!isReference) return;
   argument.origin = value.vt & VT_BYREF ? &value : &source;
-  if (type == VT_BSTR) argument.textBefore = TextOf(argument.converted->bstrVal);
-  else argument.numberBefore = NumberIn(argument.converted.Get());
+  if (type == VT_BSTR)
+    argument.textBefore = TextOf(argument.converted->bstrVal);
+  else
+    argument.numberBefore = NumberIn(argument.converted.Get());
 }
 
 void Arguments::TakeValue(const VARIANT& source, Type type, Argument& argument) {
@@ -207,8 +239,8 @@ void Arguments::GiveBack() noexcept {
   for (Argument& argument : arguments_) {
     if (!argument.origin) continue;
     const VARIANT& value = argument.converted.Get();
-    const bool changed =
-        value.vt == VT_BSTR ? TextOf(value.bstrVal) != argument.textBefore : NumberIn(value) != argument.numberBefore;
+    const bool changed = value.vt == VT_BSTR ? TextOf(value.bstrVal) != argument.textBefore
+                                             : NumberIn(value) != argument.numberBefore;
     if (changed) StoreThrough(*argument.origin, value);
   }
 }

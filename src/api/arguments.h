@@ -1,9 +1,9 @@
 #pragma once
-// The arguments of one late-bound call, as the vtable wants them. It holds converted copies for as long as the
-// call runs.
+// The arguments of one late-bound call, as the vtable wants them. It holds converted copies for as long as
+// the call runs.
 
-#include <windows.h>
 #include <oaidl.h>
+#include <windows.h>
 
 #include <array>
 #include <string>
@@ -15,8 +15,9 @@ namespace qm::api {
 
 class Arguments {
  public:
-  // DISP_E_BADPARAMCOUNT, DISP_E_PARAMNOTFOUND and DISP_E_PARAMNOTOPTIONAL come back; a failed conversion is thrown.
-  [[nodiscard]] HRESULT Take(const Function& function, const DISPPARAMS& passed);
+  // Errors: 448 for a name that no parameter has, 449 for a missing argument, 450 for too many; 13, 6 and 94
+  // for values.
+  void Take(const Function& function, const DISPPARAMS& passed);
   void AddResult(const Function& function, OwnedVariant& returned);
   // After the call: what it changed in converted copies goes to the host's variables.
   void GiveBack() noexcept;
@@ -30,15 +31,15 @@ class Arguments {
 
  private:
   struct Argument {
-    VARIANT passed{};                  // as the vtable wants it
-    OwnedVariant converted;            // what it may point to
-    const VARIANT* origin = nullptr;   // the host's reference, to give a change back
+    VARIANT passed{};                 // as the vtable wants it
+    OwnedVariant converted;           // what it may point to
+    const VARIANT* origin = nullptr;  // the host's reference, to give a change back
     std::u16string textBefore;
     LONG numberBefore = 0;
   };
 
-  [[nodiscard]] HRESULT Place(const Function& function, const DISPPARAMS& passed,
-                              std::array<const VARIANT*, kMostParameters>& given);
+  void Place(const Function& function, const DISPPARAMS& passed,
+             std::array<const VARIANT*, kMostParameters>& given);
   void TakeReference(const VARIANT& source, Type type, Argument& argument);
   void TakeScalarReference(const VARIANT& source, VARTYPE type, Argument& argument);
   void TakeValue(const VARIANT& source, Type type, Argument& argument);

@@ -1,11 +1,11 @@
 #pragma once
-// The base of the component's classes: identity, late-bound calls, class information and error support for one
-// dual interface. Classes add their fields with QM_FIELD and their methods with Call.
+// The base of the component's classes: identity, late-bound calls, class information and error support for
+// one dual interface. Classes add their fields with QM_FIELD and their methods with Call.
 
-#include <windows.h>
 #include <oaidl.h>
 #include <ocidl.h>
 #include <olectl.h>
+#include <windows.h>
 
 #include <cstdint>
 #include <string>
@@ -29,12 +29,12 @@ inline void Import(SHORT value, std::int16_t& stored) { stored = value; }
 inline void Import(VARIANT_BOOL value, bool& stored) { stored = value != VARIANT_FALSE; }
 
 // The get and let accessors of a public field.
-#define QM_FIELD(NativeType, Name, storage)                                            \
-  HRESULT STDMETHODCALLTYPE get_##Name(NativeType* result) noexcept override {         \
+#define QM_FIELD(NativeType, Name, storage)                                              \
+  HRESULT STDMETHODCALLTYPE get_##Name(NativeType* result) noexcept override {           \
     return this->Call([&] { ::qm::api::Export(storage, ::qm::api::Required(result)); }); \
-  }                                                                                    \
-  HRESULT STDMETHODCALLTYPE put_##Name(NativeType value) noexcept override {           \
-    return this->Call([&] { ::qm::api::Import(value, storage); });                     \
+  }                                                                                      \
+  HRESULT STDMETHODCALLTYPE put_##Name(NativeType value) noexcept override {             \
+    return this->Call([&] { ::qm::api::Import(value, storage); });                       \
   }
 
 template <class Face, const Interface& kFace>
@@ -77,7 +77,8 @@ class AutomationObject : public Face,
     return IsEqualGUID(reserved, IID_NULL) ? IdsOfNames(kFace, names, count, ids) : DISP_E_UNKNOWNINTERFACE;
   }
   HRESULT STDMETHODCALLTYPE Invoke(DISPID id, REFIID reserved, LCID, WORD flags, DISPPARAMS* arguments,
-                                   VARIANT* result, EXCEPINFO* exception, UINT* wrongArgument) noexcept override {
+                                   VARIANT* result, EXCEPINFO* exception,
+                                   UINT* wrongArgument) noexcept override {
     if (!IsEqualGUID(reserved, IID_NULL)) return DISP_E_UNKNOWNINTERFACE;
     const AliveDuringCall alive(*static_cast<Face*>(this));
     return InvokeMember(kFace, *this, id, flags, arguments, result, exception, wrongArgument);

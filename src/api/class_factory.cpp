@@ -63,8 +63,10 @@ class ClassFactory final : public IClassFactory, private CountedObject {
     }
   }
   HRESULT STDMETHODCALLTYPE LockServer(BOOL lock) noexcept override {
-    if (lock) LibraryUse::Add();
-    else LibraryUse::Remove();
+    if (lock)
+      LibraryUse::Add();
+    else
+      LibraryUse::Remove();
     return S_OK;
   }
 

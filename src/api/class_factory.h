@@ -1,8 +1,8 @@
 #pragma once
 // Makes the component's objects for COM.
 
-#include <windows.h>
 #include <unknwn.h>
+#include <windows.h>
 
 namespace qm::api {
 

@@ -65,14 +65,20 @@ void ThrowIfFailed(HRESULT result) {
   if (SUCCEEDED(result)) return;
   switch (result) {
     case DISP_E_TYPEMISMATCH:
-    case DISP_E_BADVARTYPE: throw RuntimeError(ErrorNumber::TypeMismatch);
-    case DISP_E_OVERFLOW: throw RuntimeError(ErrorNumber::Overflow);
-    case DISP_E_BADINDEX: throw RuntimeError(ErrorNumber::SubscriptOutOfRange);
+    case DISP_E_BADVARTYPE:
+      throw RuntimeError(ErrorNumber::TypeMismatch);
+    case DISP_E_OVERFLOW:
+      throw RuntimeError(ErrorNumber::Overflow);
+    case DISP_E_BADINDEX:
+      throw RuntimeError(ErrorNumber::SubscriptOutOfRange);
     case DISP_E_MEMBERNOTFOUND:
       throw RuntimeError(kNoSuchMember, u"El objeto no admite esta propiedad o método");
-    case E_OUTOFMEMORY: throw std::bad_alloc();
-    case E_INVALIDARG: throw RuntimeError(ErrorNumber::InvalidArgument);
-    default: break;
+    case E_OUTOFMEMORY:
+      throw std::bad_alloc();
+    case E_INVALIDARG:
+      throw RuntimeError(ErrorNumber::InvalidArgument);
+    default:
+      break;
   }
   std::u16string description = TakeDescription();
   if (HRESULT_FACILITY(result) == FACILITY_CONTROL) {
@@ -80,7 +86,8 @@ void ThrowIfFailed(HRESULT result) {
     if (description.empty()) description = runtime::DescriptionOf(number);
     throw RuntimeError(number, std::move(description));
   }
-  throw RuntimeError(kAutomationError, description.empty() ? u"Error de automatización" : std::move(description));
+  throw RuntimeError(kAutomationError,
+                     description.empty() ? u"Error de automatización" : std::move(description));
 }
 
 void ThrowNotSupported() { throw RuntimeError(kNotSupported, u"El objeto no admite esta acción"); }

@@ -11,8 +11,9 @@ bool Composition::Imprimir(data::PrintJob& job) {
 }
 
 print::Environment Composition::NewEnvironment() {
-  return {files_, printers_, spooler_, pictures_, prompts_, clock_, modelFile_, paperForms_,
-          platform::win32::UserLocale()};
+  return {files_,     printers_,   spooler_,
+          pictures_,  prompts_,    clock_,
+          modelFile_, paperForms_, platform::win32::UserLocale()};
 }
 
 Composition& TheComposition() {

@@ -1,6 +1,6 @@
 #pragma once
-// Where the concrete parts of the component meet: the Windows implementations of the world outside, the state that
-// all print jobs of a process share, and the engines.
+// Where the concrete parts of the component meet: the Windows implementations of the world outside, the state
+// that all print jobs of a process share, and the engines.
 
 #include "data/print_job.h"
 #include "model/model_file.h"

@@ -1,8 +1,9 @@
 #pragma once
-// The connection point of a class with one event interface: hosts advise, unadvise and enumerate as they like.
+// The connection point of a class with one event interface: hosts advise, unadvise and enumerate as they
+// like.
 
-#include <windows.h>
 #include <ocidl.h>
+#include <windows.h>
 #include <wrl/client.h>
 
 #include <vector>
@@ -35,7 +36,8 @@ class ConnectionPoints final : public IConnectionPointContainer {
     ULONG STDMETHODCALLTYPE AddRef() noexcept override { return container_.AddRef(); }
     ULONG STDMETHODCALLTYPE Release() noexcept override { return container_.Release(); }
     HRESULT STDMETHODCALLTYPE GetConnectionInterface(IID* id) noexcept override;
-    HRESULT STDMETHODCALLTYPE GetConnectionPointContainer(IConnectionPointContainer** container) noexcept override;
+    HRESULT STDMETHODCALLTYPE
+    GetConnectionPointContainer(IConnectionPointContainer** container) noexcept override;
     HRESULT STDMETHODCALLTYPE Advise(IUnknown* sink, DWORD* cookie) noexcept override;
     HRESULT STDMETHODCALLTYPE Unadvise(DWORD cookie) noexcept override;
     HRESULT STDMETHODCALLTYPE EnumConnections(IEnumConnections** connections) noexcept override;

@@ -13,12 +13,9 @@ namespace qm::api {
 
 namespace {
 
-using runtime::ErrorNumber;
-using runtime::RuntimeError;
-
 bool SameName(std::u16string_view name, const OLECHAR* asked) {
-  return CompareStringOrdinal(reinterpret_cast<const OLECHAR*>(name.data()), static_cast<int>(name.size()), asked, -1,
-                              TRUE) == CSTR_EQUAL;
+  return CompareStringOrdinal(reinterpret_cast<const OLECHAR*>(name.data()), static_cast<int>(name.size()),
+                              asked, -1, TRUE) == CSTR_EQUAL;
 }
 
 const Member* FindMember(const Interface& face, const OLECHAR* name) {
@@ -37,10 +34,14 @@ DISPID IdOfParameter(const Member& member, const OLECHAR* name) {
 
 bool Serves(Access access, WORD flags) {
   switch (access) {
-    case Access::Call: return flags & DISPATCH_METHOD;
-    case Access::Get: return flags & DISPATCH_PROPERTYGET;
-    case Access::Let: return flags & DISPATCH_PROPERTYPUT;
-    case Access::Set: return flags & DISPATCH_PROPERTYPUTREF;
+    case Access::Call:
+      return flags & DISPATCH_METHOD;
+    case Access::Get:
+      return flags & DISPATCH_PROPERTYGET;
+    case Access::Let:
+      return flags & DISPATCH_PROPERTYPUT;
+    case Access::Set:
+      return flags & DISPATCH_PROPERTYPUTREF;
   }
   return false;
 }
@@ -71,8 +72,8 @@ HRESULT Call(IDispatch& object, const Function& function, Arguments& arguments, 
   OwnedVariant returned;
   arguments.AddResult(function, returned);
   VARIANT outcome{};
-  HRESULT called = DispCallFunc(&object, static_cast<ULONG_PTR>(function.slot) * sizeof(void*), CC_STDCALL, VT_ERROR,
-                                arguments.Count(), arguments.Types(), arguments.Values(), &outcome);
+  HRESULT called = DispCallFunc(&object, static_cast<ULONG_PTR>(function.slot) * sizeof(void*), CC_STDCALL,
+                                VT_ERROR, arguments.Count(), arguments.Types(), arguments.Values(), &outcome);
   if (SUCCEEDED(called)) called = outcome.scode;
   if (FAILED(called)) return called;
   arguments.GiveBack();
@@ -96,24 +97,19 @@ HRESULT IdsOfNames(const Interface& face, LPOLESTR* names, UINT count, DISPID* i
   return found;
 }
 
-HRESULT InvokeMember(const Interface& face, IDispatch& object, DISPID id, WORD flags, const DISPPARAMS* passed,
-                     VARIANT* result, EXCEPINFO* exception, UINT* wrongArgument) noexcept {
+HRESULT InvokeMember(const Interface& face, IDispatch& object, DISPID id, WORD flags,
+                     const DISPPARAMS* passed, VARIANT* result, EXCEPINFO* exception,
+                     UINT* wrongArgument) noexcept {
   if (!passed) return E_INVALIDARG;
   const std::optional<Function> function = FindFunction(face, id, flags);
   if (!function) return DISP_E_MEMBERNOTFOUND;
   if (result) VariantInit(result);
   Arguments arguments;
   try {
-    if (const HRESULT taken = arguments.Take(*function, *passed); FAILED(taken)) {
-      if (wrongArgument) *wrongArgument = arguments.Wrong();
-      return taken;
-    }
+    arguments.Take(*function, *passed);
   } catch (...) {
     if (wrongArgument) *wrongArgument = arguments.Wrong();
-    const HRESULT failure = ReportCurrentException(face.id);
-    if (failure == ResultOf(static_cast<int>(ErrorNumber::TypeMismatch))) return DISP_E_TYPEMISMATCH;
-    if (failure == ResultOf(static_cast<int>(ErrorNumber::Overflow))) return DISP_E_OVERFLOW;
-    return AsException(failure, exception);
+    return AsException(ReportCurrentException(face.id), exception);
   }
   const HRESULT called = Call(object, *function, arguments, result);
   return FAILED(called) ? AsException(called, exception) : S_OK;

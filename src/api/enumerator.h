@@ -1,8 +1,8 @@
 #pragma once
 // A COM enumerator over a copy of a list of interface pointers.
 
-#include <windows.h>
 #include <ocidl.h>
+#include <windows.h>
 #include <wrl/client.h>
 
 #include <algorithm>
@@ -40,7 +40,8 @@ class Enumerator final : public Traits::Interface, private CountedObject {
     return static_cast<ULONG>(left);
   }
 
-  HRESULT STDMETHODCALLTYPE Next(ULONG count, typename Traits::Item* items, ULONG* fetched) noexcept override {
+  HRESULT STDMETHODCALLTYPE Next(ULONG count, typename Traits::Item* items,
+                                 ULONG* fetched) noexcept override {
     if (!items || (!fetched && count != 1)) return E_POINTER;
     ULONG given = 0;
     for (; given < count && next_ < items_.size(); ++given) Traits::Give(items_[next_++], items[given]);

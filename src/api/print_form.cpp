@@ -13,7 +13,8 @@ PrintForm::PrintForm(Composition& composition)
     : composition_(composition), events_(*static_cast<IDispatch*>(this), kPrintFormEventsFace) {}
 
 void* PrintForm::FindOther(REFIID id) noexcept {
-  return IsEqualGUID(id, IID_IConnectionPointContainer) ? static_cast<IConnectionPointContainer*>(&events_) : nullptr;
+  return IsEqualGUID(id, IID_IConnectionPointContainer) ? static_cast<IConnectionPointContainer*>(&events_)
+                                                        : nullptr;
 }
 
 HRESULT PrintForm::get_NumeroModelo(VARIANT* result) noexcept {
@@ -47,7 +48,8 @@ HRESULT PrintForm::AsignarCampo(BSTR* nombreCampo, VARIANT* valor, _Campos** res
   return Call([&] {
     Required(result) = nullptr;
     const std::u16string_view name = TextOf(Required(nombreCampo));
-    if (auto added = data::AsignarCampo(job_, name, TextOf(Required(valor)))) *result = new Campos(std::move(added));
+    if (auto added = data::AsignarCampo(job_, name, TextOf(Required(valor))))
+      *result = new Campos(std::move(added));
   });
 }
 

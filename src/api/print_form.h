@@ -1,6 +1,6 @@
 #pragma once
-// The class PrintForm: a print job of the host. It holds the job's state and hands each action to the part of the
-// component that does it.
+// The class PrintForm: a print job of the host. It holds the job's state and hands each action to the part of
+// the component that does it.
 
 #include "api/automation_object.h"
 #include "api/composition.h"
@@ -44,15 +44,18 @@ class PrintForm final : public AutomationObject<Qm_Modelo_Impresion3::_PrintForm
   QM_FIELD(BSTR, PoP3Host, job_.mail.pop3Host)
   QM_FIELD(VARIANT_BOOL, Receipt, job_.mail.receipt)
 
-  HRESULT STDMETHODCALLTYPE AñadirCampoTabla(BSTR* tabla, BSTR* campo, BSTR* valor, SHORT* tipo) noexcept override;
+  HRESULT STDMETHODCALLTYPE AñadirCampoTabla(BSTR* tabla, BSTR* campo, BSTR* valor,
+                                             SHORT* tipo) noexcept override;
   HRESULT STDMETHODCALLTYPE EmailModelo(BSTR* mydir, BSTR* eDir, BSTR* zipFile) noexcept override;
   HRESULT STDMETHODCALLTYPE EnviarEmail() noexcept override;
   HRESULT STDMETHODCALLTYPE CrearZip(BSTR* eDir, BSTR* zipFile) noexcept override;
   HRESULT STDMETHODCALLTYPE ImprimirModelo() noexcept override;
   HRESULT STDMETHODCALLTYPE AsignarCampo(BSTR* nombreCampo, VARIANT* valor,
                                          Qm_Modelo_Impresion3::_Campos** result) noexcept override;
-  HRESULT STDMETHODCALLTYPE AñadirCampo(BSTR* nombreCampo, Qm_Modelo_Impresion3::_Campos** result) noexcept override;
-  HRESULT STDMETHODCALLTYPE AñadirTabla(BSTR* nombreTabla, Qm_Modelo_Impresion3::_Tablas** result) noexcept override;
+  HRESULT STDMETHODCALLTYPE AñadirCampo(BSTR* nombreCampo,
+                                        Qm_Modelo_Impresion3::_Campos** result) noexcept override;
+  HRESULT STDMETHODCALLTYPE AñadirTabla(BSTR* nombreTabla,
+                                        Qm_Modelo_Impresion3::_Tablas** result) noexcept override;
   HRESULT STDMETHODCALLTYPE AsignarDatosTabla(BSTR* tabla, SHORT* numArchivo, SAFEARRAY** cArray,
                                               SAFEARRAY** dArray) noexcept override;
   HRESULT STDMETHODCALLTYPE
@@ -69,7 +72,7 @@ class PrintForm final : public AutomationObject<Qm_Modelo_Impresion3::_PrintForm
   Composition& composition_;
   data::PrintJob job_;
   OwnedVariant numeroModelo_;
-  std::u16string eDir_;            // this one and the next two are the host's own; nothing here uses them
+  std::u16string eDir_;  // this one and the next two are the host's own; nothing here uses them
   std::int32_t error_ = 0;
   std::u16string errDescription_;
   bool impresionAnulada_ = false;  // set here, cleared only by the host

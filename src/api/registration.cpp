@@ -17,7 +17,8 @@ namespace {
 constexpr bool kIs64Bit = sizeof(void*) == 8;
 constexpr View kOtherView = kIs64Bit ? View::Bits32 : View::Bits64;
 constexpr const wchar_t* kPlatform = kIs64Bit ? L"win64" : L"win32";
-constexpr const wchar_t* kOtherPlatform = kIs64Bit ? L"win32" : L"win64";
+// Always below the root itself: only so does Windows find the part of the other bitness.
+constexpr const wchar_t* kClassesPath = L"Software\\Classes\\";
 constexpr const wchar_t* kVersion = L"1.0";
 // The automation library's marshaler, which reads the type library.
 constexpr const wchar_t* kAutomationMarshaler = L"{00020424-0000-0000-C000-000000000046}";
@@ -31,25 +32,14 @@ std::wstring Text(const GUID& id) {
 }
 
 std::wstring ProgId(const Class& each) { return Wide(kLibraryName) + L"." + Wide(each.name); }
-std::wstring ClassPath(const Class& each) { return L"CLSID\\" + Text(each.id); }
-std::wstring InterfacePath(const Interface& face) { return L"Interface\\" + Text(face.id); }
-std::wstring LibraryKeyPath() { return L"TypeLib\\" + Text(kLibraryId); }
+std::wstring ProgIdPath(const Class& each) { return kClassesPath + ProgId(each); }
+std::wstring ClassPath(const Class& each) { return kClassesPath + (L"CLSID\\" + Text(each.id)); }
+std::wstring InterfacePath(const Interface& face) { return kClassesPath + (L"Interface\\" + Text(face.id)); }
+std::wstring LibraryKeyPath() { return kClassesPath + (L"TypeLib\\" + Text(kLibraryId)); }
 std::wstring VersionPath() { return LibraryKeyPath() + L"\\" + kVersion; }
 std::wstring LocalePath() { return VersionPath() + L"\\409"; }
 
-class ClassesRoot {
- public:
-  explicit ClassesRoot(Scope scope) {
-    const HKEY top = scope == Scope::Machine ? HKEY_LOCAL_MACHINE : HKEY_CURRENT_USER;
-    const LSTATUS opened = RegCreateKeyExW(top, L"Software\\Classes", 0, nullptr, 0, KEY_READ | KEY_WRITE, nullptr,
-                                           key_.Out(), nullptr);
-    if (opened != ERROR_SUCCESS) throw RegistryError(opened);
-  }
-  [[nodiscard]] HKEY Get() const noexcept { return key_.Get(); }
-
- private:
-  RegistryKey key_;
-};
+HKEY RootOf(Scope scope) { return scope == Scope::Machine ? HKEY_LOCAL_MACHINE : HKEY_CURRENT_USER; }
 
 void AddClass(RegistryChanges& changes, const Class& each, const std::wstring& file) {
   const std::wstring path = ClassPath(each);
@@ -60,8 +50,8 @@ void AddClass(RegistryChanges& changes, const Class& each, const std::wstring& f
   changes.SetText(path + L"\\Programmable", L"", L"");
   changes.SetText(path + L"\\TypeLib", L"", Text(kLibraryId));
   changes.SetText(path + L"\\VERSION", L"", kVersion);
-  changes.SetText(ProgId(each), L"", ProgId(each));
-  changes.SetText(ProgId(each) + L"\\Clsid", L"", Text(each.id));
+  changes.SetText(ProgIdPath(each), L"", ProgId(each));
+  changes.SetText(ProgIdPath(each) + L"\\Clsid", L"", Text(each.id));
 }
 
 void AddInterface(RegistryChanges& changes, const Interface& face) {
@@ -81,7 +71,7 @@ void AddLibrary(RegistryChanges& changes, const std::wstring& file) {
 
 void RemoveShared(HKEY root) {
   for (const Class& each : Classes()) {
-    DeleteTree(root, ProgId(each));
+    DeleteTree(root, ProgIdPath(each));
     for (const Interface* face : {each.face, each.events}) {
       if (!face) continue;
       DeleteTree(root, InterfacePath(*face), View::Bits32);
@@ -111,8 +101,7 @@ HRESULT Guarded(Body&& body) noexcept {
 HRESULT Register(Scope scope) noexcept {
   return Guarded([&] {
     const std::wstring file = LibraryPath();
-    const ClassesRoot root(scope);
-    RegistryChanges changes(root.Get());
+    RegistryChanges changes(RootOf(scope));
     for (const Class& each : Classes()) {
       AddClass(changes, each, file);
       AddInterface(changes, *each.face);
@@ -125,12 +114,10 @@ HRESULT Register(Scope scope) noexcept {
 
 HRESULT Unregister(Scope scope) noexcept {
   return Guarded([&] {
-    const ClassesRoot root(scope);
-    for (const Class& each : Classes()) DeleteTree(root.Get(), ClassPath(each));
-    DeleteTree(root.Get(), LocalePath() + L"\\" + kPlatform);
-    const bool otherIsThere = KeyExists(root.Get(), ClassPath(Classes().front()), kOtherView) ||
-                              KeyExists(root.Get(), LocalePath() + L"\\" + kOtherPlatform, View::Own);
-    if (!otherIsThere) RemoveShared(root.Get());
+    const HKEY root = RootOf(scope);
+    for (const Class& each : Classes()) DeleteTree(root, ClassPath(each));
+    DeleteTree(root, LocalePath() + L"\\" + kPlatform);
+    if (!KeyExists(root, ClassPath(Classes().front()), kOtherView)) RemoveShared(root);
   });
 }
 

@@ -1,6 +1,6 @@
 #pragma once
-// The component's entries in the registry. The x64 and the x86 library are registered side by side: classes in the
-// part of their bitness, names and interfaces shared, so that either can go without the other.
+// The component's entries in the registry. The x64 and the x86 library are registered side by side: classes
+// in the part of their bitness, names and interfaces shared, so that either can go without the other.
 
 #include <windows.h>
 

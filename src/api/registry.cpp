@@ -29,7 +29,8 @@ void RegistryChanges::MakeKey(const std::wstring& path) {
     Change change{part, {}, true, REG_NONE, std::nullopt};
     RegistryKey key;
     DWORD disposition = 0;
-    Check(RegCreateKeyExW(root_, part.c_str(), 0, nullptr, 0, KEY_READ | KEY_WRITE, nullptr, key.Out(), &disposition));
+    Check(RegCreateKeyExW(root_, part.c_str(), 0, nullptr, 0, KEY_READ | KEY_WRITE, nullptr, key.Out(),
+                          &disposition));
     if (disposition == REG_CREATED_NEW_KEY) done_.push_back(std::move(change));
     if (end == std::wstring::npos) return;
   }
@@ -41,7 +42,8 @@ void RegistryChanges::SetText(const std::wstring& path, const std::wstring& name
   Check(RegOpenKeyExW(root_, path.c_str(), 0, KEY_READ | KEY_WRITE, key.Out()));
   Change change{path, name, false, REG_NONE, std::nullopt};
   DWORD size = 0;
-  if (RegQueryValueExW(key.Get(), NameOrDefault(name), nullptr, &change.type, nullptr, &size) == ERROR_SUCCESS) {
+  if (RegQueryValueExW(key.Get(), NameOrDefault(name), nullptr, &change.type, nullptr, &size) ==
+      ERROR_SUCCESS) {
     std::vector<BYTE> before(size);
     Check(RegQueryValueExW(key.Get(), NameOrDefault(name), nullptr, &change.type, before.data(), &size));
     change.before = std::move(before);
@@ -68,7 +70,8 @@ void RegistryChanges::Undo(const Change& change) noexcept {
 
 bool KeyExists(HKEY root, const std::wstring& path, View view) {
   RegistryKey key;
-  return RegOpenKeyExW(root, path.c_str(), 0, KEY_READ | static_cast<REGSAM>(view), key.Out()) == ERROR_SUCCESS;
+  return RegOpenKeyExW(root, path.c_str(), 0, KEY_READ | static_cast<REGSAM>(view), key.Out()) ==
+         ERROR_SUCCESS;
 }
 
 void DeleteTree(HKEY root, const std::wstring& path, View view) {
@@ -87,8 +90,8 @@ void DeleteIfEmpty(HKEY root, const std::wstring& path) {
   RegistryKey key;
   if (RegOpenKeyExW(root, path.c_str(), 0, KEY_READ, key.Out()) != ERROR_SUCCESS) return;
   DWORD keys = 0;
-  Check(RegQueryInfoKeyW(key.Get(), nullptr, nullptr, nullptr, &keys, nullptr, nullptr, nullptr, nullptr, nullptr,
-                         nullptr, nullptr));
+  Check(RegQueryInfoKeyW(key.Get(), nullptr, nullptr, nullptr, &keys, nullptr, nullptr, nullptr, nullptr,
+                         nullptr, nullptr, nullptr));
   if (keys == 0) Check(RegDeleteKeyW(root, path.c_str()));
 }
 

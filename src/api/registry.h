@@ -48,9 +48,9 @@ class RegistryChanges {
  private:
   struct Change {
     std::wstring path;
-    std::wstring name;                 // of a value that was set; unused for a key
-    bool madeKey = false;              // else a value was set
-    DWORD type = REG_NONE;             // of the value before, if there was one
+    std::wstring name;      // of a value that was set; unused for a key
+    bool madeKey = false;   // else a value was set
+    DWORD type = REG_NONE;  // of the value before, if there was one
     std::optional<std::vector<BYTE>> before;
   };
 

@@ -1,8 +1,8 @@
 #pragma once
 // BSTRs to the core's texts and back. A null BSTR is an empty text; embedded zeros are kept.
 
-#include <windows.h>
 #include <oleauto.h>
+#include <windows.h>
 
 #include <new>
 #include <string>
@@ -17,7 +17,8 @@ static_assert(sizeof(wchar_t) == sizeof(char16_t));
 }
 
 [[nodiscard]] inline BSTR NewBstr(std::u16string_view text) {
-  BSTR made = SysAllocStringLen(reinterpret_cast<const OLECHAR*>(text.data()), static_cast<UINT>(text.size()));
+  BSTR made =
+      SysAllocStringLen(reinterpret_cast<const OLECHAR*>(text.data()), static_cast<UINT>(text.size()));
   if (!made) throw std::bad_alloc();
   return made;
 }

@@ -1,8 +1,8 @@
 #pragma once
 // The component's own type library, the one embedded in its file.
 
-#include <windows.h>
 #include <oaidl.h>
+#include <windows.h>
 
 #include <string>
 

@@ -36,8 +36,8 @@ void GetDefaultProperty(IUnknown* object, OwnedVariant& value) {
   DISPPARAMS none{};
   EXCEPINFO exception{};
   const HRESULT result =
-      dispatch->Invoke(DISPID_VALUE, IID_NULL, GetUserDefaultLCID(), DISPATCH_METHOD | DISPATCH_PROPERTYGET, &none,
-                       &value.Get(), &exception, nullptr);
+      dispatch->Invoke(DISPID_VALUE, IID_NULL, GetUserDefaultLCID(), DISPATCH_METHOD | DISPATCH_PROPERTYGET,
+                       &none, &value.Get(), &exception, nullptr);
   if (result == DISP_E_EXCEPTION) ThrowException(exception);
   ThrowIfFailed(result);
 }
@@ -69,7 +69,8 @@ VARIANT OwnedVariant::Release() noexcept {
 }
 
 HRESULT ChangeType(VARIANT& converted, const VARIANT& value, VARTYPE type) noexcept {
-  return VariantChangeTypeEx(&converted, const_cast<VARIANT*>(&value), GetUserDefaultLCID(), VARIANT_LOCALBOOL, type);
+  return VariantChangeTypeEx(&converted, const_cast<VARIANT*>(&value), GetUserDefaultLCID(),
+                             VARIANT_LOCALBOOL, type);
 }
 
 void Convert(const VARIANT& value, VARTYPE type, OwnedVariant& converted) {

@@ -1,10 +1,11 @@
 #pragma once
-// Variants of the host as values of the core, by the rules of the automation runtime and in the user's locale.
-// Errors: 94 for Null, 13 for arrays, error values and texts that are no number, 91 for Nothing, 6 overflow;
+// Variants of the host as values of the core, by the rules of the automation runtime and in the user's
+// locale. Errors: 94 for Null, 13 for arrays, error values and texts that are no number, 91 for Nothing, 6
+// overflow;
 //         an object stands for its default property, whose errors pass as they are.
 
-#include <windows.h>
 #include <oaidl.h>
+#include <windows.h>
 
 #include <string>
 

@@ -2,6 +2,8 @@
 
 #include <algorithm>
 #include <charconv>
+#include <cstddef>
+#include <deque>
 #include <pugixml.hpp>
 #include <utility>
 
@@ -32,23 +34,33 @@ std::string_view LocalName(std::string_view name) { return name.substr(name.find
 // ---- Lookup
 
 // The number of an attribute's text as XPath has it: blanks around, no "+", no exponent.
-bool IsNumber(std::string_view text, std::int32_t number) {
+std::optional<double> NumberOf(std::string_view text) {
   text.remove_prefix(std::min(text.find_first_not_of(kBlanks), text.size()));
   text = text.substr(0, text.find_last_not_of(kBlanks) + 1);
   const std::string_view digits = text.substr(text.starts_with('-') ? 1 : 0);
-  if (digits.find_first_not_of("0123456789.") != digits.npos) return false;
+  if (digits.find_first_not_of("0123456789.") != std::string_view::npos) return std::nullopt;
   double value = 0;
   const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), value);
-  return error == std::errc() && end == text.data() + text.size() && value == number;
+  if (error != std::errc() || end != text.data() + text.size()) return std::nullopt;
+  return value;
 }
 
-// The first child element of any name with that number.
-xml_node FindModel(xml_node root, std::int32_t numero) {
-  for (const xml_node child : root.children()) {
-    const xml_attribute attribute = child.attribute("Numero");
-    if (attribute && child.type() == pugi::node_element && IsNumber(attribute.value(), numero)) return child;
+// An element parsed on its own.
+struct Element {
+  explicit Element(std::string_view bytes) : text(Utf8FromCodePage(bytes)) {
+    const auto result =
+        document.load_buffer_inplace(text.data(), text.size(), kParseOptions, pugi::encoding_utf8);
+    if (result.status == pugi::status_out_of_memory) throw RuntimeError(ErrorNumber::OutOfMemory);
+    if (!result) throw RuntimeError(ErrorNumber::ObjectNotSet);
   }
-  return {};
+
+  std::string text;  // the nodes' texts lie in it
+  pugi::xml_document document;
+};
+
+std::optional<double> NumberOf(const XmlOutline::Child& child) {
+  if (child.numero.find('&') == std::string_view::npos) return NumberOf(child.numero);
+  return NumberOf(std::string_view(Element(child.whole).document.first_child().attribute("Numero").value()));
 }
 
 // ---- Reading
@@ -93,26 +105,23 @@ ModelTexts ReadModel(xml_node modelo) {
   return texts;
 }
 
-// ---- Building a model
+// ---- Writing
 
-template <typename Handle>
-Handle Made(Handle handle) {
-  if (!handle) throw RuntimeError(ErrorNumber::OutOfMemory);
-  return handle;
+void AppendAttribute(std::string& out, std::string_view name, std::u16string_view text) {
+  out.append(" ").append(name).append("=\"");
+  AppendEscaped(out, text, Escape::AttributeValue);
+  out += '"';
 }
 
-void Check(bool stored) {
-  if (!stored) throw RuntimeError(ErrorNumber::OutOfMemory);
-}
-
-void SetAttribute(xml_node element, const char* name, std::u16string_view text) {
-  Check(Made(element.append_attribute(name)).set_value(XmlUtf8(text).c_str()));
-}
-
-void AddChildNode(xml_node parent, const char* name, std::u16string_view text) {
-  xml_node child = Made(parent.append_child(name));
-  if (text.empty()) return;
-  Check(Made(child.append_child(pugi::node_pcdata)).set_value(XmlUtf8(text).c_str()));
+void AppendChild(std::string& out, std::string_view name, std::u16string_view text) {
+  out.append("<").append(name);
+  if (text.empty()) {
+    out += "/>";
+    return;
+  }
+  out += '>';
+  AppendEscaped(out, text, Escape::Text);
+  out.append("</").append(name).append(">");
 }
 
 std::u16string LogoText(const LogoBox& logo, const Locale& locale) {
@@ -122,96 +131,41 @@ std::u16string LogoText(const LogoBox& logo, const Locale& locale) {
   return text;
 }
 
-void AddField(xml_node modelo, const FieldToSave& field, const Locale& locale) {
-  xml_node campo = Made(modelo.append_child("Campo"));
-  AddChildNode(campo, "Descripcion", field.descripcion);
-  AddChildNode(campo, "Top", runtime::ToText(field.top, locale));
-  AddChildNode(campo, "Left", runtime::ToText(field.left, locale));
-  AddChildNode(campo, "Width", runtime::ToText(field.width, locale));
-  AddChildNode(campo, "Height", runtime::ToText(field.height, locale));
-  AddChildNode(campo, "ForeColor", runtime::ToText(field.foreColor));
-  AddChildNode(campo, "Bold", runtime::ToText(field.bold, locale));
-  AddChildNode(campo, "FontSize", runtime::ToText(field.fontSize, locale));
-  AddChildNode(campo, "FontItalic", runtime::ToText(field.fontItalic, locale));
-  AddChildNode(campo, "Alignment", runtime::ToText(field.alignment));
-  AddChildNode(campo, "Underline", runtime::ToText(field.underline, locale));
-  AddChildNode(campo, "FontName", field.fontName);
-  SetAttribute(campo, "Key", runtime::ToText(field.key));
+void AppendField(std::string& out, const FieldToSave& field, const Locale& locale) {
+  out += "<Campo";
+  AppendAttribute(out, "Key", runtime::ToText(field.key));
+  out += '>';
+  AppendChild(out, "Descripcion", field.descripcion);
+  AppendChild(out, "Top", runtime::ToText(field.top, locale));
+  AppendChild(out, "Left", runtime::ToText(field.left, locale));
+  AppendChild(out, "Width", runtime::ToText(field.width, locale));
+  AppendChild(out, "Height", runtime::ToText(field.height, locale));
+  AppendChild(out, "ForeColor", runtime::ToText(field.foreColor));
+  AppendChild(out, "Bold", runtime::ToText(field.bold, locale));
+  AppendChild(out, "FontSize", runtime::ToText(field.fontSize, locale));
+  AppendChild(out, "FontItalic", runtime::ToText(field.fontItalic, locale));
+  AppendChild(out, "Alignment", runtime::ToText(field.alignment));
+  AppendChild(out, "Underline", runtime::ToText(field.underline, locale));
+  AppendChild(out, "FontName", field.fontName);
+  out += "</Campo>";
 }
 
-void AddModel(xml_node root, const ModelToSave& model, const Locale& locale) {
-  xml_node modelo = Made(root.append_child("Modelo"));
+std::string Written(const ModelToSave& model, const Locale& locale) {
   const std::u16string_view etiqueta = model.esEtiqueta ? u"1" : u"0";
-  SetAttribute(modelo, "Numero", runtime::ToText(model.numero));
-  SetAttribute(modelo, "Width", runtime::ToText(model.width, locale));
-  SetAttribute(modelo, "Height", runtime::ToText(model.height, locale));
-  SetAttribute(modelo, "Copias", model.copias);
-  SetAttribute(modelo, "Printer", model.printer);
-  SetAttribute(modelo, "EsEtiqueta", etiqueta);
-  SetAttribute(modelo, "Logo", etiqueta);  // the label flag once more: files have always had it so
-  if (!model.imagen.empty()) SetAttribute(modelo, "Imagen", model.imagen);
-  if (model.imagenLogo) SetAttribute(modelo, "ImagenLogo", LogoText(*model.imagenLogo, locale));
-  for (const FieldToSave& field : model.fields) AddField(modelo, field, locale);
-}
-
-// ---- Writing
-
-void WriteNode(std::string& out, xml_node node);
-
-void WriteElement(std::string& out, xml_node element) {
-  out += '<';
-  AppendInCodePage(out, element.name(), Escape::None);
-  for (const xml_attribute attribute : element.attributes()) {
-    out += ' ';
-    AppendInCodePage(out, attribute.name(), Escape::None);
-    out += "=\"";
-    AppendInCodePage(out, attribute.value(), Escape::AttributeValue);
-    out += '"';
-  }
-  if (!element.first_child()) {
-    out += "/>";
-    return;
-  }
+  std::string out = "<Modelo";
+  AppendAttribute(out, "Numero", runtime::ToText(model.numero));
+  AppendAttribute(out, "Width", runtime::ToText(model.width, locale));
+  AppendAttribute(out, "Height", runtime::ToText(model.height, locale));
+  AppendAttribute(out, "Copias", model.copias);
+  AppendAttribute(out, "Printer", model.printer);
+  AppendAttribute(out, "EsEtiqueta", etiqueta);
+  AppendAttribute(out, "Logo", etiqueta);  // the label flag once more: files have always had it so
+  if (!model.imagen.empty()) AppendAttribute(out, "Imagen", model.imagen);
+  if (model.imagenLogo) AppendAttribute(out, "ImagenLogo", LogoText(*model.imagenLogo, locale));
+  if (model.fields.empty()) return out + "/>";
   out += '>';
-  for (const xml_node child : element.children()) WriteNode(out, child);
-  out += "</";
-  AppendInCodePage(out, element.name(), Escape::None);
-  out += '>';
-}
-
-void WriteText(std::string& out, xml_node node) {
-  std::string_view text = node.value();
-  const bool alone = !node.previous_sibling() && !node.next_sibling();
-  const bool onlyBlanks = text.find_first_not_of(kBlanks) == text.npos;
-  if (onlyBlanks && !alone && !text.empty()) {  // readers would drop it as white space between elements
-    out.append("&#").append(std::to_string(text.front())).append(";");
-    text.remove_prefix(1);
-  }
-  AppendInCodePage(out, text, Escape::Text);
-}
-
-void WriteEnclosed(std::string& out, std::string_view before, std::string_view text, std::string_view after) {
-  out += before;
-  AppendInCodePage(out, text, Escape::None);
-  out += after;
-}
-
-void WriteNode(std::string& out, xml_node node) {
-  switch (node.type()) {
-    case pugi::node_element:
-      return WriteElement(out, node);
-    case pugi::node_pcdata:
-      return WriteText(out, node);
-    case pugi::node_cdata:
-      return WriteEnclosed(out, "<![CDATA[", node.value(), "]]>");
-    case pugi::node_comment:
-      return WriteEnclosed(out, "<!--", node.value(), "-->");
-    case pugi::node_pi:
-      WriteEnclosed(out, "<?", node.name(), *node.value() != '\0' ? " " : "");
-      return WriteEnclosed(out, "", node.value(), "?>");
-    default:
-      return;  // nothing else is read
-  }
+  for (const FieldToSave& field : model.fields) AppendField(out, field, locale);
+  return out + "</Modelo>";
 }
 
 }  // namespace
@@ -222,36 +176,53 @@ std::u16string_view ModelTexts::Attribute(std::u16string_view name) const {
   return {};
 }
 
+// The root's content in order, each part as it stands in the file: a save touches no model but its own.
 struct ModelDocument::Tree {
-  std::string text;  // parsed in place: the nodes' texts lie in it
-  pugi::xml_document document;
-  bool parsed = false;
-  xml_node root;  // the first node, when it is an element
+  struct Piece {
+    std::string_view bytes;
+    std::optional<double> number;  // of a model
+  };
 
-  void Load(std::string_view bytes);
-  [[nodiscard]] xml_node RootElement() const;
+  std::string file;
+  std::deque<std::string> added;  // models that were saved; a deque never moves them
+  bool parsed = true;
+  bool hasRoot = true;
+  std::string_view rootTag = "<Modelos";
+  std::string_view rootName = "Modelos";
+  std::vector<Piece> pieces;
+
+  explicit Tree(std::string_view bytes);
+  void AddText(const char* begin, const char* end);
+  [[nodiscard]] std::vector<Piece>::const_iterator Find(std::int32_t numero) const {
+    return std::find_if(pieces.begin(), pieces.end(),
+                        [numero](const Piece& piece) { return piece.number == numero; });
+  }
+  void RequireRoot() const {
+    if (!hasRoot) throw RuntimeError(ErrorNumber::ObjectNotSet);
+  }
 };
 
-void ModelDocument::Tree::Load(std::string_view bytes) {
-  if (bytes.empty()) {
-    root = Made(document.append_child("Modelos"));
-    parsed = true;
-    return;
+ModelDocument::Tree::Tree(std::string_view bytes) : file(bytes) {
+  if (file.empty()) return;
+  const XmlOutline outline = Outline(file);
+  parsed = outline.shape != XmlShape::IllFormed;
+  hasRoot = outline.shape == XmlShape::RootComesFirst;
+  if (!hasRoot) return;
+  rootTag = outline.rootTag.substr(0, outline.rootTag.find_last_not_of(kBlanks) + 1);
+  rootName = outline.rootName;
+  const char* done = outline.content.data();
+  for (const XmlOutline::Child& child : outline.children) {
+    AddText(done, child.whole.data());
+    pieces.push_back({child.whole, NumberOf(child)});
+    done = child.whole.data() + child.whole.size();
   }
-  const XmlShape shape = Examine(bytes);
-  parsed = shape != XmlShape::IllFormed;
-  if (shape != XmlShape::RootComesFirst) return;
-  text = Utf8FromCodePage(bytes);
-  const pugi::xml_parse_result result =
-      document.load_buffer_inplace(text.data(), text.size(), kParseOptions, pugi::encoding_utf8);
-  if (result.status == pugi::status_out_of_memory) throw RuntimeError(ErrorNumber::OutOfMemory);
-  parsed = result.status == pugi::status_ok;
-  if (parsed) root = document.first_child();
+  AddText(done, outline.content.data() + outline.content.size());
 }
 
-xml_node ModelDocument::Tree::RootElement() const {
-  if (!root) throw RuntimeError(ErrorNumber::ObjectNotSet);
-  return root;
+// What stands between the models: comments, and white space, which is not kept.
+void ModelDocument::Tree::AddText(const char* begin, const char* end) {
+  const std::string_view text(begin, end);
+  if (text.find_first_not_of(kBlanks) != std::string_view::npos) pieces.push_back({text, std::nullopt});
 }
 
 ModelDocument::ModelDocument(std::unique_ptr<Tree> tree) : tree_(std::move(tree)) {}
@@ -260,29 +231,34 @@ ModelDocument& ModelDocument::operator=(ModelDocument&&) noexcept = default;
 ModelDocument::~ModelDocument() = default;
 
 ModelDocument ModelDocument::Parse(std::string_view bytes) {
-  auto tree = std::make_unique<Tree>();
-  tree->Load(bytes);
-  return ModelDocument(std::move(tree));
+  return ModelDocument(std::make_unique<Tree>(bytes));
 }
 
 std::optional<ModelTexts> ModelDocument::Find(std::int32_t numero) const {
   if (!tree_->parsed) throw RuntimeError(ErrorNumber::ObjectNotSet);
-  const xml_node model = FindModel(tree_->root, numero);
-  if (!model) return std::nullopt;
-  return ReadModel(model);
+  const auto found = tree_->Find(numero);
+  if (found == tree_->pieces.end()) return std::nullopt;
+  return ReadModel(Element(found->bytes).document.first_child());
 }
 
 void ModelDocument::Replace(const ModelToSave& model, const Locale& locale) {
-  xml_node root = tree_->RootElement();
-  if (const xml_node earlier = FindModel(root, model.numero)) root.remove_child(earlier);
-  AddModel(root, model, locale);
+  tree_->RequireRoot();
+  tree_->added.push_back(Written(model, locale));
+  if (const auto earlier = tree_->Find(model.numero); earlier != tree_->pieces.end())
+    tree_->pieces.erase(earlier);
+  tree_->pieces.push_back({tree_->added.back(), model.numero});
 }
 
 std::string ModelDocument::Serialize() const {
-  std::string out;
-  out.reserve(tree_->text.size() + 0x4000);
-  WriteElement(out, tree_->RootElement());
-  return out;
+  tree_->RequireRoot();
+  std::string out(tree_->rootTag);
+  if (tree_->pieces.empty()) return out + "/>";
+  std::size_t size = out.size() + tree_->rootName.size() + 4;
+  for (const Tree::Piece& piece : tree_->pieces) size += piece.bytes.size();
+  out.reserve(size);
+  out += '>';
+  for (const Tree::Piece& piece : tree_->pieces) out += piece.bytes;
+  return out.append("</").append(tree_->rootName).append(">");
 }
 
 }  // namespace qm::model

@@ -67,6 +67,8 @@ class ModelDocument {
   // An empty text gives a document with an empty root; one that cannot be parsed, a document with none.
   [[nodiscard]] static ModelDocument Parse(std::string_view bytes);
 
+  ModelDocument(const ModelDocument&) = delete;
+  ModelDocument& operator=(const ModelDocument&) = delete;
   ModelDocument(ModelDocument&&) noexcept;
   ModelDocument& operator=(ModelDocument&&) noexcept;
   ~ModelDocument();
@@ -75,12 +77,12 @@ class ModelDocument {
   [[nodiscard]] std::optional<ModelTexts> Find(std::int32_t numero) const;
   // The model becomes the last one; the first earlier one of its number goes.
   void Replace(const ModelToSave& model, const runtime::Locale& locale);
-  // The root element alone, in the code page, on one line; all else that the models hold stays as it was but
-  // for white space between elements.
+  // The root element alone, in the code page. Models that were not replaced stand there byte for byte as they
+  // were read; white space between models is dropped.
   [[nodiscard]] std::string Serialize() const;
 
  private:
-  struct Tree;  // hides the XML library
+  struct Tree;
   explicit ModelDocument(std::unique_ptr<Tree> tree);
   std::unique_ptr<Tree> tree_;
 };

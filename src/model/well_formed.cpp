@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <array>
 #include <cstdint>
-#include <vector>
+#include <utility>
 
 #include "runtime/code_page.h"
 
@@ -68,10 +68,11 @@ class Scanner {
  public:
   explicit Scanner(std::string_view bytes) : text_(bytes) { open_.reserve(16); }
 
-  XmlShape Examine() {
+  XmlOutline Outline() {
     bool rootFirst = false;
-    if (!Prolog(rootFirst) || !Root() || !Epilog()) return XmlShape::IllFormed;
-    return rootFirst ? XmlShape::RootComesFirst : XmlShape::OtherNodeFirst;
+    if (!Prolog(rootFirst) || !Root() || !Epilog()) return {};
+    outline_.shape = rootFirst ? XmlShape::RootComesFirst : XmlShape::OtherNodeFirst;
+    return std::move(outline_);
   }
 
  private:
@@ -81,19 +82,26 @@ class Scanner {
     return !AtEnd() && (classes_[static_cast<std::uint8_t>(text_[at_])] & wanted) != 0;
   }
   bool Take(std::string_view expected) {
-    if (text_.substr(at_, expected.size()) != expected) return false;
+    if (!text_.substr(at_).starts_with(expected)) return false;
     at_ += expected.size();
     return true;
   }
-  bool SkipBlanks() {
+  // Passes over characters that are, or are not, of a class; the whole cost of reading a large file is here.
+  template <bool wanted>
+  std::size_t SkipWhile(CharClass characters) {
+    const std::uint8_t* const classes = classes_.data();
     const std::size_t start = at_;
-    while (Is(kBlank)) ++at_;
-    return at_ > start;
+    std::size_t at = start;
+    while (at < text_.size() && ((classes[static_cast<std::uint8_t>(text_[at])] & characters) != 0) == wanted)
+      ++at;
+    at_ = at;
+    return at - start;
   }
+  bool SkipBlanks() { return SkipWhile<true>(kBlank) > 0; }
   // The part up to the terminator, which is taken as well.
   bool TakeUntil(std::string_view terminator, std::string_view& part) {
     const std::size_t end = text_.find(terminator, at_);
-    if (end == text_.npos) return false;
+    if (end == std::string_view::npos) return false;
     part = text_.substr(at_, end - at_);
     at_ = end + terminator.size();
     return std::none_of(part.begin(), part.end(), [this](char c) {
@@ -104,7 +112,7 @@ class Scanner {
   bool Name(std::string_view& name) {
     if (!Is(kNameStart)) return false;
     const std::size_t start = at_;
-    while (Is(kNamePart)) ++at_;
+    SkipWhile<true>(kNamePart);
     name = text_.substr(start, at_ - start);
     return true;
   }
@@ -155,44 +163,73 @@ class Scanner {
     return StartTag();
   }
 
+  // After the "<".
   bool StartTag() {
+    const std::size_t begin = at_ - 1;
     std::string_view name;
     if (!Name(name) || !Attributes()) return false;
-    if (Take("/>")) return true;
+    if (open_.empty()) {
+      outline_.rootName = name;
+      outline_.rootTag = text_.substr(begin, at_ - begin);
+    } else if (open_.size() == 1) {
+      outline_.children.push_back({text_.substr(begin), numero_});
+    }
     open_.push_back(name);
-    return Take(">") && open_.size() <= kMaxDepth;
+    const bool isEmpty = Take("/");
+    if (!Take(">") || open_.size() > kMaxDepth) return false;
+    if (open_.size() == 1) outline_.content = text_.substr(at_);
+    if (isEmpty) Close(at_);
+    return true;
   }
 
+  // After the "</".
   bool EndTag() {
+    const std::size_t begin = at_ - 2;
     if (!Take(open_.back()) || Is(kNamePart)) return false;
-    open_.pop_back();
     SkipBlanks();
-    return Take(">");
+    if (!Take(">")) return false;
+    Close(begin);
+    return true;
+  }
+
+  void Close(std::size_t contentEnd) {
+    open_.pop_back();
+    const auto cut = [this](std::string_view& part, std::size_t end) {
+      part = part.substr(0, end - static_cast<std::size_t>(part.data() - text_.data()));
+    };
+    if (open_.empty()) cut(outline_.content, contentEnd);
+    if (open_.size() == 1) cut(outline_.children.back().whole, at_);
   }
 
   bool Attributes() {
     attributes_.clear();
+    numero_ = {};
     while (SkipBlanks() && Is(kNameStart)) {
       std::string_view name;
-      if (!Name(name) || !AttributeValue()) return false;
+      std::string_view value;
+      if (!Name(name) || !AttributeValue(value)) return false;
+      if (name == "Numero") numero_ = value;
       attributes_.push_back(name);
     }
     std::sort(attributes_.begin(), attributes_.end());
     return std::adjacent_find(attributes_.begin(), attributes_.end()) == attributes_.end();
   }
 
-  bool AttributeValue() {
+  bool AttributeValue(std::string_view& value) {
     SkipBlanks();
     if (!Take("=")) return false;
     SkipBlanks();
     const char quote = Current();
     if (quote != '"' && quote != '\'') return false;
-    ++at_;
+    const std::size_t begin = ++at_;
     while (true) {
-      while (!AtEnd() && !Is(kValueStop)) ++at_;
+      SkipWhile<false>(kValueStop);
       if (AtEnd() || Current() == '<' || Is(kForbidden)) return false;
       const char stop = text_[at_++];
-      if (stop == quote) return true;
+      if (stop == quote) {
+        value = text_.substr(begin, at_ - 1 - begin);
+        return true;
+      }
       if (stop == '&' && !Reference()) return false;
     }
   }
@@ -200,7 +237,7 @@ class Scanner {
   // Up to the next "<".
   bool Text() {
     while (true) {
-      while (!AtEnd() && !Is(kTextStop)) ++at_;
+      SkipWhile<false>(kTextStop);
       if (AtEnd() || Is(kForbidden)) return false;
       if (Current() == '<') return true;
       if (Take("]]>")) return false;
@@ -279,10 +316,12 @@ class Scanner {
   const std::array<std::uint8_t, 256>& classes_ = Classes();
   std::vector<std::string_view> open_;
   std::vector<std::string_view> attributes_;
+  std::string_view numero_;  // of the tag being read
+  XmlOutline outline_;
 };
 
 }  // namespace
 
-XmlShape Examine(std::string_view bytes) { return Scanner(bytes).Examine(); }
+XmlOutline Outline(std::string_view bytes) { return Scanner(bytes).Outline(); }
 
 }  // namespace qm::model

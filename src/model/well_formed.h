@@ -6,6 +6,7 @@
 
 #include <cstddef>
 #include <string_view>
+#include <vector>
 
 namespace qm::model {
 
@@ -17,6 +18,20 @@ enum class XmlShape {
   OtherNodeFirst,  // a declaration, comment, instruction or document type stands before the root
 };
 
-[[nodiscard]] XmlShape Examine(std::string_view bytes);
+// Where the parts of a well-formed text lie. All views are into the text.
+struct XmlOutline {
+  struct Child {
+    std::string_view whole;   // the element with its tags
+    std::string_view numero;  // its attribute of that name, as written; "" when there is none
+  };
+
+  XmlShape shape = XmlShape::IllFormed;
+  std::string_view rootName;
+  std::string_view rootTag;     // the root's opening tag without the ">" or "/>"
+  std::string_view content;     // between the root's tags
+  std::vector<Child> children;  // the elements directly under the root
+};
+
+[[nodiscard]] XmlOutline Outline(std::string_view bytes);
 
 }  // namespace qm::model

@@ -32,47 +32,35 @@ void AppendReference(std::string& out, char32_t point) {
   out.append("&#").append(std::to_string(static_cast<std::uint32_t>(point))).append(";");
 }
 
-// What stands for an ASCII character, nothing for itself.
-std::string_view Replacement(char c, Escape escape) {
-  if (escape == Escape::None) return {};
+// What stands for a character of XML's own, nothing for any other.
+std::string_view Replacement(char16_t c, Escape escape) {
   switch (c) {
-    case '&':
+    case u'&':
       return "&amp;";
-    case '<':
+    case u'<':
       return "&lt;";
-    case '>':
+    case u'>':
       return "&gt;";
-    case '\r':
+    case u'\r':
       return "&#13;";
     default:
       break;
   }
   if (escape == Escape::Text) return {};
   switch (c) {
-    case '"':
+    case u'"':
       return "&quot;";
-    case '\t':
+    case u'\t':
       return "&#9;";
-    case '\n':
+    case u'\n':
       return "&#10;";
     default:
       return {};
   }
 }
 
-void AppendLetters(std::string& out, std::u16string_view letters, Escape escape) {
-  for (std::size_t i = 0; i < letters.size(); ++i) {
-    const char16_t unit = letters[i];
-    if (runtime::IsRepresentable(unit) || escape == Escape::None) {
-      out += static_cast<char>(runtime::ToByte(unit));
-    } else if ((unit & 0xFC00) == 0xD800 && i + 1 < letters.size()) {
-      ++i;
-      AppendReference(out, 0x10000U + ((unit & 0x3FFU) << 10) + (letters[i] & 0x3FFU));
-    } else {
-      AppendReference(out, unit);
-    }
-  }
-}
+bool IsLeading(char16_t unit) { return (unit & 0xFC00) == 0xD800; }
+bool IsTrailing(char16_t unit) { return (unit & 0xFC00) == 0xDC00; }
 
 }  // namespace
 
@@ -89,23 +77,21 @@ std::string Utf8FromCodePage(std::string_view bytes) {
   return text;
 }
 
-std::string XmlUtf8(std::u16string_view text) {
-  if (std::none_of(text.begin(), text.end(), IsForbidden)) return runtime::ToUtf8(text);
-  std::u16string kept(text);
-  std::erase_if(kept, IsForbidden);
-  return runtime::ToUtf8(kept);
-}
-
-void AppendInCodePage(std::string& out, std::string_view utf8, Escape escape) {
-  const auto isPlain = [escape](char c) { return IsAscii(c) && Replacement(c, escape).empty(); };
-  for (auto at = utf8.begin(); at != utf8.end();) {
-    const auto run = std::find_if_not(at, utf8.end(), isPlain);
-    out.append(at, run);
-    at = run;
-    for (; at != utf8.end() && IsAscii(*at) && !isPlain(*at); ++at) out += Replacement(*at, escape);
-    const auto foreign = std::find_if(at, utf8.end(), IsAscii);
-    if (at != foreign) AppendLetters(out, runtime::FromUtf8(std::string_view(at, foreign)), escape);
-    at = foreign;
+void AppendEscaped(std::string& out, std::u16string_view text, Escape escape) {
+  constexpr char32_t kReplacementCharacter = 0xFFFD;
+  for (std::size_t i = 0; i < text.size(); ++i) {
+    const char16_t unit = text[i];
+    if (IsForbidden(unit)) continue;
+    if (const std::string_view replacement = Replacement(unit, escape); !replacement.empty()) {
+      out += replacement;
+    } else if (runtime::IsRepresentable(unit)) {
+      out += static_cast<char>(runtime::ToByte(unit));
+    } else if (IsLeading(unit) && i + 1 < text.size() && IsTrailing(text[i + 1])) {
+      ++i;
+      AppendReference(out, 0x10000U + ((unit & 0x3FFU) << 10) + (text[i] & 0x3FFU));
+    } else {
+      AppendReference(out, IsLeading(unit) || IsTrailing(unit) ? kReplacementCharacter : unit);
+    }
   }
 }
 

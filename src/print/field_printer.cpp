@@ -12,7 +12,7 @@ namespace {
 constexpr std::u16string_view kScratchPicture = u"fotosocio.jpg";
 constexpr double kTwipsPerPixel = 15;
 constexpr double kLineGap = 10;
-// Line heights are fractions of a twip on printers: a line that ends at the bottom must not fall by a last bit.
+// A line that ends exactly at the bottom must not fall by the last bit of a printer's fractions of twips.
 constexpr double kRoundingTwips = 1e-6;
 
 // A side of a picture's box in pixels; a box without extent leaves the picture's own.

@@ -4,6 +4,7 @@
 #include <wrl/client.h>
 
 #include <cstdio>
+#include <initializer_list>
 
 namespace qm::tests {
 
@@ -17,6 +18,12 @@ std::string Utf8(const wchar_t* text) {
   WideCharToMultiByte(CP_UTF8, 0, text, -1, bytes.data(), size, nullptr, nullptr);
   bytes.resize(bytes.size() - 1);
   return bytes;
+}
+
+std::string Joined(std::initializer_list<std::string> parts) {
+  std::string text;
+  for (const std::string& part : parts) text += part;
+  return text;
 }
 
 std::string Text(const GUID& id) {
@@ -41,21 +48,33 @@ std::string NameOf(ITypeInfo& info) {
 
 std::string Describe(ITypeInfo& info, const TYPEDESC& type) {
   switch (type.vt) {
-    case VT_BSTR: return "BSTR";
-    case VT_I2: return "short";
-    case VT_I4: return "long";
-    case VT_BOOL: return "VARIANT_BOOL";
-    case VT_VARIANT: return "VARIANT";
-    case VT_DISPATCH: return "IDispatch*";
-    case VT_HRESULT: return "HRESULT";
-    case VT_VOID: return "void";
-    case VT_PTR: return Describe(info, *type.lptdesc) + "*";
-    case VT_SAFEARRAY: return "SAFEARRAY(" + Describe(info, *type.lptdesc) + ")";
+    case VT_BSTR:
+      return "BSTR";
+    case VT_I2:
+      return "short";
+    case VT_I4:
+      return "long";
+    case VT_BOOL:
+      return "VARIANT_BOOL";
+    case VT_VARIANT:
+      return "VARIANT";
+    case VT_DISPATCH:
+      return "IDispatch*";
+    case VT_HRESULT:
+      return "HRESULT";
+    case VT_VOID:
+      return "void";
+    case VT_PTR:
+      return Describe(info, *type.lptdesc) + "*";
+    case VT_SAFEARRAY:
+      return Joined({"SAFEARRAY(", Describe(info, *type.lptdesc), ")"});
     case VT_USERDEFINED: {
       ComPtr<ITypeInfo> referred;
-      return SUCCEEDED(info.GetRefTypeInfo(type.hreftype, &referred)) ? NameOf(*referred.Get()) : "unresolved";
+      return SUCCEEDED(info.GetRefTypeInfo(type.hreftype, &referred)) ? NameOf(*referred.Get())
+                                                                      : "unresolved";
     }
-    default: return "vt" + std::to_string(type.vt);
+    default:
+      return Joined({"vt", std::to_string(type.vt)});
   }
 }
 
@@ -68,10 +87,11 @@ std::string Parameter(ITypeInfo& info, const ELEMDESC& parameter, const std::str
   if (flags & PARAMFLAG_FOPT) text += "optional ";
   if (flags & PARAMFLAG_FHASDEFAULT) {
     const VARIANT& value = parameter.paramdesc.pparamdescex->varDefaultValue;
-    text += "default=" + (value.vt == VT_BSTR ? "\"" + Utf8(value.bstrVal ? value.bstrVal : L"") + "\" " : "?");
+    text += value.vt == VT_BSTR ? Joined({"default=\"", Utf8(value.bstrVal ? value.bstrVal : L""), "\" "})
+                                : "default=? ";
   }
   text.back() = ']';
-  return text + " " + Describe(info, parameter.tdesc) + (name.empty() ? "" : " " + name);
+  return Joined({text, " ", Describe(info, parameter.tdesc), name.empty() ? "" : " ", name});
 }
 
 std::string FunctionLine(ITypeInfo& info, const FUNCDESC& function) {
@@ -80,15 +100,18 @@ std::string FunctionLine(ITypeInfo& info, const FUNCDESC& function) {
   info.GetNames(function.memid, names, 8, &count);
   constexpr int kPointer = static_cast<int>(sizeof(void*));
   std::string line = "  ";
-  if (function.funckind == FUNC_DISPATCH) line += "-";
-  else if (function.oVft % kPointer != 0) line += "?";
-  else line += std::to_string(function.oVft / kPointer);
+  if (function.funckind == FUNC_DISPATCH)
+    line += "-";
+  else if (function.oVft % kPointer != 0)
+    line += "?";
+  else
+    line += std::to_string(function.oVft / kPointer);
   const char* kind = function.invkind == INVOKE_PROPERTYGET      ? " get "
                      : function.invkind == INVOKE_PROPERTYPUT    ? " let "
                      : function.invkind == INVOKE_PROPERTYPUTREF ? " set "
                                                                  : " method ";
-  line += " " + Hex(function.memid) + kind + Describe(info, function.elemdescFunc.tdesc) + " " +
-          (count ? Utf8(names[0]) : "") + "(";
+  line += Joined({" ", Hex(function.memid), kind, Describe(info, function.elemdescFunc.tdesc), " ",
+                  count ? Utf8(names[0]) : "", "("});
   for (int i = 0; i < function.cParams; ++i) {
     const auto name = static_cast<UINT>(i + 1);
     if (i) line += ", ";
@@ -121,7 +144,7 @@ std::string ListClass(ITypeInfo& info, const TYPEATTR& attributes) {
     text += "  ";
     if (flags & IMPLTYPEFLAG_FDEFAULT) text += "default ";
     if (flags & IMPLTYPEFLAG_FSOURCE) text += "source ";
-    text += (face ? NameOf(*face.Get()) : "unresolved") + "\n";
+    text += Joined({face ? NameOf(*face.Get()) : "unresolved", "\n"});
   }
   return text;
 }
@@ -131,7 +154,9 @@ std::string ListFunctions(ITypeInfo& info, const TYPEATTR& attributes) {
   for (UINT i = 0; i < attributes.cFuncs; ++i) {
     FUNCDESC* function = nullptr;
     if (FAILED(info.GetFuncDesc(i, &function))) continue;
-    text += FunctionLine(info, *function);
+    // The dispatch view of an event interface shows those of IUnknown and IDispatch, too.
+    const bool isInherited = function->memid >= 0x60000000 && function->memid < 0x60020000;
+    if (!isInherited) text += FunctionLine(info, *function);
     info.ReleaseFuncDesc(function);
   }
   return text;
@@ -141,9 +166,10 @@ std::string ListType(ITypeInfo& info) {
   TYPEATTR* attributes = nullptr;
   if (FAILED(info.GetTypeAttr(&attributes))) return "unreadable\n";
   const bool isClass = attributes->typekind == TKIND_COCLASS;
-  std::string text = std::string(isClass ? "class " : attributes->typekind == TKIND_DISPATCH ? "dispatch " : "interface ") +
-                     NameOf(info) + " " + Text(attributes->guid) + " " + std::to_string(attributes->wMajorVerNum) + "." +
-                     std::to_string(attributes->wMinorVerNum) + Flags(attributes->wTypeFlags) + "\n";
+  const char* kind = isClass ? "class " : attributes->typekind == TKIND_DISPATCH ? "dispatch " : "interface ";
+  std::string text =
+      Joined({kind, NameOf(info), " ", Text(attributes->guid), " ", std::to_string(attributes->wMajorVerNum),
+              ".", std::to_string(attributes->wMinorVerNum), Flags(attributes->wTypeFlags), "\n"});
   text += isClass ? ListClass(info, *attributes) : ListFunctions(info, *attributes);
   info.ReleaseTypeAttr(attributes);
   return text;
@@ -156,9 +182,10 @@ std::string ListInterface(ITypeLib& library) {
   if (FAILED(library.GetLibAttr(&attributes))) return "unreadable\n";
   BSTR name = nullptr;
   library.GetDocumentation(-1, &name, nullptr, nullptr, nullptr);
-  std::string text = "library " + Utf8(name) + " " + Text(attributes->guid) + " " +
-                     std::to_string(attributes->wMajorVerNum) + "." + std::to_string(attributes->wMinorVerNum) + " lcid " +
-                     Hex(static_cast<long>(attributes->lcid)).substr(4) + "\n";
+  std::string text =
+      Joined({"library ", Utf8(name), " ", Text(attributes->guid), " ",
+              std::to_string(attributes->wMajorVerNum), ".", std::to_string(attributes->wMinorVerNum),
+              " lcid ", Hex(static_cast<long>(attributes->lcid)).substr(4), "\n"});
   SysFreeString(name);
   library.ReleaseTLibAttr(attributes);
   for (UINT i = 0; i < library.GetTypeInfoCount(); ++i) {
@@ -171,7 +198,7 @@ std::string ListInterface(ITypeLib& library) {
         SUCCEEDED(info->GetRefTypeInfo(vtable, &face))) {
       info = face;
     }
-    text += "\n" + ListType(*info.Get());
+    text += Joined({"\n", ListType(*info.Get())});
   }
   return text;
 }

@@ -1,4 +1,3 @@
-#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 #include "model/document.h"
@@ -8,8 +7,6 @@
 
 namespace qm::model {
 namespace {
-
-using testing::ElementsAre;
 
 int ErrorOfFinding(std::string_view bytes, std::int32_t numero = 1) {
   const ModelDocument document = ModelDocument::Parse(bytes);

@@ -9,6 +9,8 @@ namespace {
 
 using namespace std::string_view_literals;
 
+XmlShape Examine(std::string_view text) { return Outline(text).shape; }
+
 std::string Nested(std::size_t depth) {
   std::string text;
   for (std::size_t i = 0; i < depth; ++i) text += "<a>";

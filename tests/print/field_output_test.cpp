@@ -335,6 +335,14 @@ TEST_F(FieldsOfAModel, APlainFieldAfterANumericCellStillWraps) {
   EXPECT_EQ(Drawn(), "page 9000x0\n0,0 12,50\n0,0 uno\n0,250 dos\n");
 }
 
+TEST_F(FieldsOfAModel, AModelThatNamesNoFontIsDrawnInTheSurfacesOwn) {
+  SetModel("", "<Campo><Descripcion>#a</Descripcion><Width>500</Width><Bold>1</Bold></Campo>");
+  fakes::RecordingSurface surface;
+  surface.SetFont({.name = u"Verdana", .sizePoints = 7});
+  EXPECT_TRUE(Draw(job, environment, surface));
+  EXPECT_EQ(surface.Log(), "page 0x0\nfont Verdana 7 bold\n0,0 a\n");
+}
+
 TEST_F(FieldsOfAModel, AFieldFoundNowherePrintsNothing) {
   SetModel("", "<Campo><Descripcion>NADA</Descripcion><Width>500</Width></Campo>");
   EXPECT_EQ(Drawn(), "page 0x0\n");

@@ -72,5 +72,5 @@ imprimir() {
   local models=$1
   shift
   run cscript //nologo "$(windows_path "$QM_SOURCE_DIR/tests/wine/documents/imprimir.js")" \
-    "$(windows_path "$models")" "$@" | tr -d '\r'
+    "$(windows_path "$models")" "$@" | tr -d '\r' | iconv -f cp850 -t utf-8
 }

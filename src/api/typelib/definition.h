@@ -109,9 +109,15 @@ void ForEachFunction(const Interface& face, Visitor&& visit) {
   int slot = kFirstSlot;
   for (const Member& member : face.members) {
     switch (member.kind) {
-      case Kind::Method: visit(Function{&member, Access::Call, slot}); break;
-      case Kind::Let: visit(Function{&member, Access::Let, slot}); break;
-      case Kind::Get: visit(Function{&member, Access::Get, slot}); break;
+      case Kind::Method:
+        visit(Function{&member, Access::Call, slot});
+        break;
+      case Kind::Let:
+        visit(Function{&member, Access::Let, slot});
+        break;
+      case Kind::Get:
+        visit(Function{&member, Access::Get, slot});
+        break;
       case Kind::Field:
         visit(Function{&member, Access::Get, slot});
         visit(Function{&member, Access::Let, slot + 1});

@@ -28,10 +28,14 @@ OLECHAR* Text(std::u16string_view text) {
 
 INVOKEKIND InvokeKind(Access access) {
   switch (access) {
-    case Access::Get: return INVOKE_PROPERTYGET;
-    case Access::Let: return INVOKE_PROPERTYPUT;
-    case Access::Set: return INVOKE_PROPERTYPUTREF;
-    default: return INVOKE_FUNC;
+    case Access::Get:
+      return INVOKE_PROPERTYGET;
+    case Access::Let:
+      return INVOKE_PROPERTYPUT;
+    case Access::Set:
+      return INVOKE_PROPERTYPUTREF;
+    default:
+      return INVOKE_FUNC;
   }
 }
 
@@ -61,9 +65,10 @@ class Library {
     Check(library_->CreateTypeInfo(Text(face.name), dispatchOnly ? TKIND_DISPATCH : TKIND_INTERFACE, &made));
     Check(made->SetGuid(face.id));
     Check(made->SetVersion(kMajorVersion, kMinorVersion));
-    Check(made->SetTypeFlags(dispatchOnly ? TYPEFLAG_FHIDDEN | TYPEFLAG_FNONEXTENSIBLE | TYPEFLAG_FDISPATCHABLE
-                                          : TYPEFLAG_FHIDDEN | TYPEFLAG_FDUAL | TYPEFLAG_FNONEXTENSIBLE |
-                                                TYPEFLAG_FOLEAUTOMATION | TYPEFLAG_FDISPATCHABLE));
+    Check(made->SetTypeFlags(dispatchOnly
+                                 ? TYPEFLAG_FHIDDEN | TYPEFLAG_FNONEXTENSIBLE | TYPEFLAG_FDISPATCHABLE
+                                 : TYPEFLAG_FHIDDEN | TYPEFLAG_FDUAL | TYPEFLAG_FNONEXTENSIBLE |
+                                       TYPEFLAG_FOLEAUTOMATION | TYPEFLAG_FDISPATCHABLE));
     Check(made->AddImplType(0, Refer(*made.Get(), dispatch_.Get())));
     made_[&face] = made;
     Check(made.As(&referred_[&face]));
@@ -72,7 +77,8 @@ class Library {
   void Describe(const Interface& face, bool dispatchOnly = false) {
     ICreateTypeInfo& made = *made_.at(&face).Get();
     UINT index = 0;
-    ForEachFunction(face, [&](const Function& function) { AddFunction(made, index++, function, dispatchOnly); });
+    ForEachFunction(face,
+                    [&](const Function& function) { AddFunction(made, index++, function, dispatchOnly); });
     Check(made.LayOut());
   }
 
@@ -126,18 +132,30 @@ class Library {
 
   TYPEDESC Describe(ICreateTypeInfo& in, Type type, TypeChain& chain) {
     switch (type) {
-      case Type::Text: return chain.Simple(VT_BSTR);
-      case Type::Integer: return chain.Simple(VT_I2);
-      case Type::Long: return chain.Simple(VT_I4);
-      case Type::Boolean: return chain.Simple(VT_BOOL);
-      case Type::Variant: return chain.Simple(VT_VARIANT);
-      case Type::Dispatch: return chain.Simple(VT_DISPATCH);
-      case Type::Campos: return Face(in, kCamposFace, chain);
-      case Type::Tablas: return Face(in, kTablasFace, chain);
-      case Type::RecordFile: return Face(in, kRecordFileFace, chain);
-      case Type::TextArray: return chain.To(VT_SAFEARRAY, chain.Simple(VT_BSTR));
-      case Type::IntegerArray: return chain.To(VT_SAFEARRAY, chain.Simple(VT_I2));
-      case Type::None: break;
+      case Type::Text:
+        return chain.Simple(VT_BSTR);
+      case Type::Integer:
+        return chain.Simple(VT_I2);
+      case Type::Long:
+        return chain.Simple(VT_I4);
+      case Type::Boolean:
+        return chain.Simple(VT_BOOL);
+      case Type::Variant:
+        return chain.Simple(VT_VARIANT);
+      case Type::Dispatch:
+        return chain.Simple(VT_DISPATCH);
+      case Type::Campos:
+        return Face(in, kCamposFace, chain);
+      case Type::Tablas:
+        return Face(in, kTablasFace, chain);
+      case Type::RecordFile:
+        return Face(in, kRecordFileFace, chain);
+      case Type::TextArray:
+        return chain.To(VT_SAFEARRAY, chain.Simple(VT_BSTR));
+      case Type::IntegerArray:
+        return chain.To(VT_SAFEARRAY, chain.Simple(VT_I2));
+      case Type::None:
+        break;
     }
     return chain.Simple(VT_VOID);
   }
@@ -185,7 +203,8 @@ class Library {
     described.cParams = static_cast<SHORT>(parameters.size());
     described.cParamsOpt = 0;
     described.lprgelemdescParam = parameters.data();
-    described.elemdescFunc.tdesc.vt = dispatchOnly ? static_cast<VARTYPE>(VT_VOID) : static_cast<VARTYPE>(VT_HRESULT);
+    described.elemdescFunc.tdesc.vt =
+        dispatchOnly ? static_cast<VARTYPE>(VT_VOID) : static_cast<VARTYPE>(VT_HRESULT);
     const HRESULT added = made.AddFuncDesc(index, &described);
     SysFreeString(emptyText.varDefaultValue.bstrVal);
     Check(added);

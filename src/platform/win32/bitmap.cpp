@@ -7,9 +7,9 @@
 namespace qm::platform::win32 {
 namespace {
 
-constexpr std::int64_t kLargestSide = 32767;           // of the drawing functions' own coordinates
-constexpr std::int64_t kLargestBytes = 1024L * 1024 * 1024;
-constexpr LONG kPixelsPerMetre = 3780;                 // 96 dots per inch
+constexpr std::int64_t kLargestSide = 32767;  // of the drawing functions' own coordinates
+constexpr std::int64_t kLargestBytes = std::int64_t{1} << 30;
+constexpr LONG kPixelsPerMetre = 3780;  // 96 dots per inch
 
 BITMAPINFOHEADER HeaderOf(int width, int height) {
   BITMAPINFOHEADER header{};

@@ -74,7 +74,8 @@ void DeviceFont::Learn(HDC dc, std::u16string_view text) {
   if (unknown_.empty()) return;
   std::vector<int> ends(unknown_.size());
   SIZE size{};
-  GetTextExtentExPointW(dc, Wide(unknown_), static_cast<int>(unknown_.size()), 0, nullptr, ends.data(), &size);
+  GetTextExtentExPointW(dc, Wide(unknown_), static_cast<int>(unknown_.size()), 0, nullptr, ends.data(),
+                        &size);
   int start = 0;
   for (std::size_t i = 0; i < unknown_.size(); ++i) {
     WidthOf(unknown_[i]) = ends[i] - start;
@@ -111,8 +112,9 @@ DeviceFonts::Entry& DeviceFonts::Get(HDC dc, const Font& font) {
   const auto known = std::find_if(entries_.begin(), entries_.end(),
                                   [&](const std::unique_ptr<Entry>& entry) { return entry->font == font; });
   if (known != entries_.end()) return **known;
-  entries_.push_back(std::make_unique<Entry>(Entry{font, FaceNumberOf(font), static_cast<int>(entries_.size()),
-                                                   DeviceFont(dc, font, dotsPerPoint_, quality_)}));
+  entries_.push_back(
+      std::make_unique<Entry>(Entry{font, FaceNumberOf(font), static_cast<int>(entries_.size()),
+                                    DeviceFont(dc, font, dotsPerPoint_, quality_)}));
   return *entries_.back();
 }
 

@@ -18,7 +18,7 @@ BOOL CALLBACK CollectUsable(HWND window, LPARAM list) noexcept {
 }  // namespace
 
 void DialogLayout::AddLabel(std::u16string_view text) {
-  controls_.push_back({Kind::Label, -1, std::u16string(text), {}});
+  controls_.push_back({Kind::Label, nextLabelId_++, std::u16string(text), {}});
 }
 void DialogLayout::AddEntry(int id, std::u16string_view text) {
   controls_.push_back({Kind::Entry, id, std::u16string(text), {}});
@@ -93,12 +93,11 @@ INT_PTR Dialog::Handle(UINT message, WPARAM wide) {
 
 void Dialog::Fill() {
   using Kind = DialogLayout::Kind;
-  int labelId = DialogTemplate::kFirstLabelId;
   HWND first = nullptr;
-  for (const DialogLayout::Control& control : layout_.controls_) {
-    const int id = control.kind == Kind::Label ? labelId++ : control.id;
-    const HWND window = GetDlgItem(window_, id);
-    if (control.kind == Kind::Label || control.kind == Kind::Entry) SetWindowTextW(window, Wide(control.text));
+  for (const DialogLayout::Control& control : layout_.Controls()) {
+    const HWND window = GetDlgItem(window_, control.id);
+    if (control.kind == Kind::Label || control.kind == Kind::Entry)
+      SetWindowTextW(window, Wide(control.text));
     if (control.kind == Kind::Entry) SendMessageW(window, EM_SETSEL, 0, -1);
     for (const std::u16string& item : control.items)
       SendMessageW(window, LB_ADDSTRING, 0, reinterpret_cast<LPARAM>(Wide(item)));
@@ -110,10 +109,10 @@ void Dialog::Fill() {
 
 void Dialog::Command(int id, int notification) {
   const bool clicked = notification == BN_CLICKED && (id == IDOK || id == IDCANCEL);
-  const bool isList =
-      std::any_of(layout_.controls_.begin(), layout_.controls_.end(), [=](const DialogLayout::Control& control) {
-        return control.kind == DialogLayout::Kind::List && control.id == id;
-      });
+  const bool isList = std::any_of(layout_.Controls().begin(), layout_.Controls().end(),
+                                  [=](const DialogLayout::Control& control) {
+                                    return control.kind == DialogLayout::Kind::List && control.id == id;
+                                  });
   if (clicked) End(id);
   if (isList && notification == LBN_DBLCLK) Command(IDOK, BN_CLICKED);
 }

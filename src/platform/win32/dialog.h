@@ -19,19 +19,9 @@ namespace qm::platform::win32 {
 inline constexpr std::u16string_view kApplicationTitle = u"Modelos de impresión";
 
 // What a dialog consists of. Controls stand in the order in which they are added, which is that of the
-// Tab key.
+// Tab key; buttons come last.
 class DialogLayout {
  public:
-  explicit DialogLayout(std::u16string_view title) : title_(title) {}
-
-  void AddLabel(std::u16string_view text);           // wrapped; very long ones scroll
-  void AddEntry(int id, std::u16string_view text);   // one line, all selected
-  void AddList(int id, const std::vector<std::u16string>& items);  // the first is selected
-  void AddButton(int id, std::u16string_view text);  // IDOK is the default one
-
- private:
-  friend class DialogTemplate;
-  friend class Dialog;
   enum class Kind { Label, Entry, List, Button };
   struct Control {
     Kind kind;
@@ -39,8 +29,26 @@ class DialogLayout {
     std::u16string text;
     std::vector<std::u16string> items;
   };
+
+  explicit DialogLayout(std::u16string_view title) : title_(title) {}
+
+  void AddLabel(std::u16string_view text);  // wrapped; very long ones scroll
+  // One line, all of it selected.
+  void AddEntry(int id, std::u16string_view text);
+  // The first item is selected.
+  void AddList(int id, const std::vector<std::u16string>& items);
+  void AddButton(int id, std::u16string_view text);  // IDOK is the default one
+
+  [[nodiscard]] const std::u16string& Title() const { return title_; }
+  [[nodiscard]] const std::vector<Control>& Controls() const { return controls_; }
+
+  // Labels are numbered in their order from here.
+  static constexpr int kFirstLabelId = 1000;
+
+ private:
   std::u16string title_;
   std::vector<Control> controls_;
+  int nextLabelId_ = kFirstLabelId;
 };
 
 class Dialog {

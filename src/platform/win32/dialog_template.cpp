@@ -20,6 +20,7 @@ constexpr int kListHeight = 82;
 constexpr int kButtonHeight = 14;
 constexpr int kButtonWidth = 50;
 constexpr int kButtonPadding = 12;
+constexpr int kScrollBarWidth = 16;
 constexpr int kNarrowest = 180;
 constexpr int kWidest = 320;
 constexpr int kTallestLabelPercent = 50;  // of the screen
@@ -30,10 +31,12 @@ constexpr int kEditClass = 0x0081;
 constexpr int kStaticClass = 0x0082;
 constexpr int kListClass = 0x0083;
 
+}  // namespace
+
 // Measures texts in the dialog's font, in dialog units.
-class Ruler {
+class DialogRuler {
  public:
-  Ruler() : font_(MakeFont()), selected_(screen_.Get(), font_.Get()) {
+  DialogRuler() : font_(MakeFont()), selected_(screen_.Get(), font_.Get()) {
     constexpr std::u16string_view kLetters = u"ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz";
     SIZE size{};
     GetTextExtentPoint32W(screen_.Get(), Wide(kLetters.data()), static_cast<int>(kLetters.size()), &size);
@@ -51,6 +54,9 @@ class Ruler {
     if (text.size() > kLongestStandingLabel) return ScreenHeight();
     const RECT area = Measured(text, DT_WORDBREAK | DT_EDITCONTROL, MulDiv(width, unitX_, 4));
     return std::max(8, Up(area.bottom, 8, unitY_) + 1);
+  }
+  [[nodiscard]] int ButtonWidth(std::u16string_view text) const {
+    return std::max(kButtonWidth, Width(text) + kButtonPadding);
   }
   [[nodiscard]] int ScreenHeight() const { return MulDiv(GetSystemMetrics(SM_CYSCREEN), 8, unitY_); }
 
@@ -83,8 +89,6 @@ class Ruler {
   int unitY_ = 1;
 };
 
-}  // namespace
-
 void DialogTemplate::PutDoubleWord(DWORD value) {
   PutWord(static_cast<int>(value & 0xFFFF));
   PutWord(static_cast<int>(value >> 16));
@@ -112,72 +116,92 @@ void DialogTemplate::PutControl(int windowClass, DWORD style, DWORD extendedStyl
   PutWord(0);  // no creation data
 }
 
-DialogTemplate::DialogTemplate(const DialogLayout& layout) {
-  using Kind = DialogLayout::Kind;
-  const Ruler ruler;
-  int width = kNarrowest;
-  int buttonsWidth = -kGap;
-  const auto buttonWidth = [&](const std::u16string& text) {
-    return std::max(kButtonWidth, ruler.Width(text) + kButtonPadding);
-  };
-  for (const DialogLayout::Control& control : layout.controls_) {
-    if (control.kind == Kind::Button) buttonsWidth += kGap + buttonWidth(control.text);
-    else width = std::max(width, std::min(kWidest, ruler.Width(control.text) + kGap));
-    for (const std::u16string& item : control.items)
-      width = std::max(width, std::min(kWidest, ruler.Width(item) + 4 * kGap));
-  }
-  width = std::max(width, buttonsWidth);
+DialogTemplate::Box DialogTemplate::NextInColumn(int height) {
+  const Box box{kMargin, y_, width_, height};
+  y_ += height + kGap;
+  return box;
+}
 
-  PutDoubleWord(WS_POPUP | WS_CAPTION | WS_SYSMENU | DS_MODALFRAME | DS_CENTER | DS_SETFONT | DS_SETFOREGROUND);
+void DialogTemplate::PutLabel(const Control& control, const DialogRuler& ruler) {
+  const int tallest = ruler.ScreenHeight() * kTallestLabelPercent / 100;
+  const int height = ruler.HeightOfWrapped(control.text, width_);
+  if (height <= tallest) {
+    PutControl(kStaticClass, SS_LEFT | SS_NOPREFIX | SS_EDITCONTROL, 0, NextInColumn(height), control.id,
+               u"");
+  } else {
+    PutControl(kEditClass, ES_MULTILINE | ES_READONLY | WS_VSCROLL | WS_TABSTOP, 0, NextInColumn(tallest),
+               control.id, u"");
+  }
+}
+
+void DialogTemplate::PutEntry(const Control& control) {
+  PutControl(kEditClass, ES_AUTOHSCROLL | WS_TABSTOP, WS_EX_CLIENTEDGE, NextInColumn(kEntryHeight),
+             control.id, u"");
+}
+
+void DialogTemplate::PutList(const Control& control) {
+  PutControl(kListClass, LBS_NOTIFY | LBS_NOINTEGRALHEIGHT | WS_VSCROLL | WS_TABSTOP, WS_EX_CLIENTEDGE,
+             NextInColumn(kListHeight), control.id, u"");
+}
+
+void DialogTemplate::PutButton(const Control& control, const DialogRuler& ruler) {
+  const Box box{buttonX_, y_ + kGapAboveButtons - kGap, ruler.ButtonWidth(control.text), kButtonHeight};
+  buttonX_ += box.width + kGap;
+  PutControl(kButtonClass, (control.id == IDOK ? BS_DEFPUSHBUTTON : BS_PUSHBUTTON) | WS_TABSTOP, 0, box,
+             control.id, control.text);
+}
+
+void DialogTemplate::PutHeader(const DialogLayout& layout) {
+  PutDoubleWord(WS_POPUP | WS_CAPTION | WS_SYSMENU | DS_MODALFRAME | DS_CENTER | DS_SETFONT |
+                DS_SETFOREGROUND);
   PutDoubleWord(WS_EX_CONTROLPARENT);
-  PutWord(static_cast<int>(layout.controls_.size()));
-  const std::size_t placeOfBox = words_.size();
-  PutBox({0, 0, 0, 0});
+  PutWord(static_cast<int>(layout.Controls().size()));
+  PutBox({0, 0, width_ + 2 * kMargin, 0});
   PutWord(0);  // no menu
   PutWord(0);  // the standard window class
-  PutText(layout.title_);
+  PutText(layout.Title());
   PutWord(kFontPoints);
   PutText(kFontName);
+}
 
-  int y = kMargin;
-  int buttonX = kMargin + width - buttonsWidth;
-  int labelId = kFirstLabelId;
-  const int tallestLabel = ruler.ScreenHeight() * kTallestLabelPercent / 100;
-  bool inButtons = false;
-  for (const DialogLayout::Control& control : layout.controls_) {
-    Box box{kMargin, y, width, 0};
+DialogTemplate::DialogTemplate(const DialogLayout& layout) {
+  using Kind = DialogLayout::Kind;
+  const DialogRuler ruler;
+  width_ = kNarrowest;
+  int buttonsWidth = -kGap;
+  for (const Control& control : layout.Controls()) {
+    if (control.kind == Kind::Button) {
+      buttonsWidth += kGap + ruler.ButtonWidth(control.text);
+    } else {
+      width_ = std::max(width_, std::min(kWidest, ruler.Width(control.text) + kGap));
+    }
+    for (const std::u16string& item : control.items)
+      width_ = std::max(width_, std::min(kWidest, ruler.Width(item) + kScrollBarWidth));
+  }
+  width_ = std::max(width_, buttonsWidth);
+
+  PutHeader(layout);
+  y_ = kMargin;
+  buttonX_ = kMargin + width_ - buttonsWidth;
+  for (const Control& control : layout.Controls()) {
     switch (control.kind) {
       case Kind::Label:
-        box.height = ruler.HeightOfWrapped(control.text, width);
-        if (box.height <= tallestLabel) {
-          PutControl(kStaticClass, SS_LEFT | SS_NOPREFIX | SS_EDITCONTROL, 0, box, labelId++, u"");
-        } else {
-          box.height = tallestLabel;
-          PutControl(kEditClass, ES_MULTILINE | ES_READONLY | WS_VSCROLL | WS_TABSTOP, 0, box, labelId++, u"");
-        }
+        PutLabel(control, ruler);
         break;
       case Kind::Entry:
-        box.height = kEntryHeight;
-        PutControl(kEditClass, ES_AUTOHSCROLL | WS_TABSTOP, WS_EX_CLIENTEDGE, box, control.id, u"");
+        PutEntry(control);
         break;
       case Kind::List:
-        box.height = kListHeight;
-        PutControl(kListClass, LBS_NOTIFY | LBS_NOINTEGRALHEIGHT | WS_VSCROLL | WS_HSCROLL | WS_TABSTOP,
-                   WS_EX_CLIENTEDGE, box, control.id, u"");
+        PutList(control);
         break;
       case Kind::Button:
-        if (!std::exchange(inButtons, true)) y += kGapAboveButtons - kGap;
-        box = {buttonX, y, buttonWidth(control.text), kButtonHeight};
-        buttonX += box.width + kGap;
-        PutControl(kButtonClass, (control.id == IDOK ? BS_DEFPUSHBUTTON : BS_PUSHBUTTON) | WS_TABSTOP, 0, box,
-                   control.id, control.text);
-        continue;
+        PutButton(control, ruler);
+        break;
     }
-    y += box.height + kGap;
   }
-  const int bottom = y + (inButtons ? kButtonHeight : -kGap) + kMargin;
-  words_[placeOfBox + 2] = static_cast<std::uint16_t>(width + 2 * kMargin);
-  words_[placeOfBox + 3] = static_cast<std::uint16_t>(bottom);
+  // The height is known only now.
+  reinterpret_cast<DLGTEMPLATE*>(words_.data())->cy =
+      static_cast<short>(y_ - kGap + kGapAboveButtons + kButtonHeight + kMargin);
 }
 
 }  // namespace qm::platform::win32

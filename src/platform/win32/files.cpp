@@ -92,8 +92,8 @@ class FileBeside {
 
   static std::u16string Suffix(int attempt) {
     constexpr char16_t kDigits[] = u"0123456789ABCDEF";
-    const std::uint32_t mark = GetCurrentProcessId() * 2654435761U + GetTickCount() * 101U +
-                               static_cast<std::uint32_t>(attempt);
+    const std::uint32_t mark =
+        GetCurrentProcessId() * 2654435761U + GetTickCount() * 101U + static_cast<std::uint32_t>(attempt);
     std::u16string suffix = u".";
     for (int shift = 28; shift >= 0; shift -= 4) suffix += kDigits[(mark >> shift) & 15U];
     return suffix + u".tmp";

@@ -48,8 +48,7 @@ std::unique_ptr<PrinterSurface> Win32Printers::OpenDefault() {
   DWORD length = 0;
   GetDefaultPrinterW(nullptr, &length);
   std::u16string name(length, u'\0');
-  if (length < 2 || !GetDefaultPrinterW(WideBuffer(name), &length))
-    Throw(runtime::ErrorNumber::PrinterError);
+  if (length < 2 || !GetDefaultPrinterW(WideBuffer(name), &length)) Throw(runtime::ErrorNumber::PrinterError);
   return Open(name.substr(0, name.find(u'\0')));
 }
 

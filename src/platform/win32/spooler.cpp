@@ -22,7 +22,9 @@ OwnedPrinter OpenToChange(std::u16string_view device) {
   return printer ? std::move(printer) : OpenToRead(device);
 }
 
-SpoolerOutcome Outcome(BOOL succeeded) { return {true, succeeded ? 0 : static_cast<std::uint32_t>(GetLastError())}; }
+SpoolerOutcome Outcome(BOOL succeeded) {
+  return {true, succeeded ? 0 : static_cast<std::uint32_t>(GetLastError())};
+}
 
 }  // namespace
 

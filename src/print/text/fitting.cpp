@@ -88,7 +88,7 @@ std::vector<Line> SplitLines(platform::Surface& surface, std::u16string_view tex
     }
     std::size_t end = FittingEnd(rest, extent, begin, width);
     const std::size_t blank = rest.substr(begin, end - begin).find_last_of(u' ');
-    if (blank != rest.npos) end = begin + blank;
+    if (blank != std::u16string_view::npos) end = begin + blank;
     add(begin, end);
     begin = rest.find_first_not_of(u' ', end);
   }

@@ -16,7 +16,7 @@ bool MixesSeparators(std::u16string_view text) {
 }
 
 double ParseTrimmed(std::u16string_view text, const runtime::Locale& locale) {
-  const bool hasPoint = text.find(u'.') != text.npos;
+  const bool hasPoint = text.find(u'.') != std::u16string_view::npos;
   return hasPoint && !MixesSeparators(text) ? runtime::Val(text) : runtime::CDbl(text, locale);
 }
 
@@ -33,7 +33,8 @@ double ParseNumber(std::u16string_view text, const runtime::Locale& locale) {
 }
 
 double ParseCentimetres(std::u16string_view text, const runtime::Locale& locale) {
-  const bool loneComma = std::count(text.begin(), text.end(), u',') == 1 && text.find(u'.') == text.npos;
+  const bool loneComma =
+      std::count(text.begin(), text.end(), u',') == 1 && text.find(u'.') == std::u16string_view::npos;
   if (!loneComma) return ParseNumber(text, locale);
   runtime::Locale commaLocale = locale;
   commaLocale.decimal = u',';

@@ -1,5 +1,7 @@
 #include "platform/win32/files.h"
 
+#include <thread>
+
 #include "tests/platform/win32/expect_error.h"
 #include "tests/platform/win32/scratch_folder.h"
 
@@ -74,6 +76,39 @@ TEST_F(FilesOnDisk, ReplacingALockedFileIsError70AndKeepsIt) {
   EXPECT_THAT(files.Read(path), Optional(std::string("old")));
   EXPECT_THAT(folder.Names(), ElementsAre(u"modelo.xml"));
   files.Replace(path, "new");
+  EXPECT_THAT(files.Read(path), Optional(std::string("new")));
+}
+
+// Someone locks the file while the new content is being written beside it, so that only the swap fails. The
+// content is large enough to be caught at it.
+TEST_F(FilesOnDisk, ASwapThatFailsKeepsTheOldFileAndTakesTheNewContentAway) {
+  const std::u16string path = folder.File(u"modelo.xml");
+  files.Replace(path, "old");
+  OwnedFile other;
+  std::thread someone([&] {
+    for (int attempt = 0; attempt < 10000 && folder.Names().size() == 1; ++attempt) Sleep(1);
+    other = OpenedBySomeoneElse(path, 0);
+  });
+  const std::string content(64 * 1024 * 1024, 'n');
+  EXPECT_RUNTIME_ERROR(70, files.Replace(path, content));
+  someone.join();
+  other.Reset();
+  EXPECT_THAT(files.Read(path), Optional(std::string("old")));
+  // Wine's swap leaves an empty file of another name behind when it fails.
+  for (const std::u16string& name : folder.Names()) {
+    EXPECT_TRUE(name == u"modelo.xml" || !name.starts_with(u"modelo.xml")) << testing::PrintToString(name);
+  }
+}
+
+TEST_F(FilesOnDisk, WhoeverIsReadingAFileReadsTheOldContentToTheEnd) {
+  const std::u16string path = folder.File(u"modelo.xml");
+  files.Replace(path, "old");
+  const OwnedFile reader = OpenedBySomeoneElse(path, FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE);
+  files.Replace(path, "new");
+  char content[4] = "";
+  DWORD length = 0;
+  EXPECT_TRUE(ReadFile(reader.Get(), content, 3, &length, nullptr));
+  EXPECT_STREQ(content, "old");
   EXPECT_THAT(files.Read(path), Optional(std::string("new")));
 }
 

@@ -10,7 +10,8 @@ namespace qm::platform::win32 {
 // Wine does not count them. There, brushes are made until it has no more to give; the difference of two such
 // numbers is the number of objects that came or went in between.
 inline long GdiObjectCount() {
-  if (const DWORD counted = GetGuiResources(GetCurrentProcess(), GR_GDIOBJECTS)) return static_cast<long>(counted);
+  if (const DWORD counted = GetGuiResources(GetCurrentProcess(), GR_GDIOBJECTS))
+    return static_cast<long>(counted);
   std::vector<HBRUSH> room;
   room.reserve(0x10000);
   while (const HBRUSH brush = CreateSolidBrush(0)) room.push_back(brush);

@@ -85,8 +85,8 @@ TEST_F(PagePicture, MeasuresAsWindowsMeasures) {
     const SelectedObject selected(dc.Get(), fonts.Get(dc.Get(), font).device.Handle());
     std::vector<int> ends(kText.size());
     SIZE size{};
-    GetTextExtentExPointW(dc.Get(), Wide(kText.data()), static_cast<int>(kText.size()), 0, nullptr, ends.data(),
-                          &size);
+    GetTextExtentExPointW(dc.Get(), Wide(kText.data()), static_cast<int>(kText.size()), 0, nullptr,
+                          ends.data(), &size);
     ASSERT_EQ(measured.ends.size(), kText.size());
     for (std::size_t i = 0; i < kText.size(); ++i)
       EXPECT_DOUBLE_EQ(measured.ends[i], ends[i] * kTwipsPerPixel) << testing::PrintToString(font.name) << i;
@@ -111,7 +111,7 @@ TEST_F(PagePicture, ControlCharactersHaveNoWidthAndDrawNothing) {
   const std::string withControls = surface.BmpBytes();
   surface.SetPageSize(6000, 3000);
   surface.PrintText({150, 150}, u"ab");
-  EXPECT_EQ(withControls, surface.BmpBytes());
+  EXPECT_TRUE(withControls == surface.BmpBytes());
 }
 
 TEST_F(PagePicture, ASurrogatePairIsOneCharacter) {
@@ -211,7 +211,7 @@ TEST_F(PagePicture, LooksAsIfDrawnInTheOrderOfTheCalls) {
     }
     (void)inOrder.Page();  // draws what was printed so far
   }
-  EXPECT_EQ(surface.BmpBytes(), inOrder.BmpBytes());
+  EXPECT_TRUE(surface.BmpBytes() == inOrder.BmpBytes());
 }
 
 TEST_F(PagePicture, ANewSizeGivesANewWhitePage) {

@@ -23,7 +23,8 @@ void Type(HWND dialog, const std::u16string& text) {
   SendMessageW(EntryOf(dialog), WM_SETTEXT, 0, reinterpret_cast<LPARAM>(Wide(text)));
 }
 
-std::u16string AskedWhile(const std::function<void(HWND)>& action, std::u16string_view prompt = u"Copia 1: Pedido",
+std::u16string AskedWhile(const std::function<void(HWND)>& action,
+                          std::u16string_view prompt = u"Copia 1: Pedido",
                           std::u16string_view defaultAnswer = u"") {
   WindowDriver user(kTitle, action);
   std::u16string answer = Win32Prompts().AskValue(prompt, 8, defaultAnswer);
@@ -192,8 +193,9 @@ TEST(ValueEntry, DisablesTheOtherWindowsOfTheThreadWhileItIsOpen) {
                                           nullptr, nullptr, nullptr, nullptr));
   const OwnedWindow second(CreateWindowExW(0, L"STATIC", L"2", WS_OVERLAPPEDWINDOW | WS_VISIBLE, 0, 0, 50, 50,
                                            nullptr, nullptr, nullptr, nullptr));
-  const OwnedWindow disabled(CreateWindowExW(0, L"STATIC", L"3", WS_OVERLAPPEDWINDOW | WS_VISIBLE | WS_DISABLED,
-                                             0, 0, 50, 50, nullptr, nullptr, nullptr, nullptr));
+  const OwnedWindow disabled(CreateWindowExW(0, L"STATIC", L"3",
+                                             WS_OVERLAPPEDWINDOW | WS_VISIBLE | WS_DISABLED, 0, 0, 50, 50,
+                                             nullptr, nullptr, nullptr, nullptr));
   SetActiveWindow(first.Get());
   bool enabledMeanwhile = true;
   (void)AskedWhile([&](HWND dialog) {

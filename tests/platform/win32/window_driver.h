@@ -15,8 +15,7 @@ class WindowDriver {
  public:
   // Acts on the first visible dialog with that title; gives up after ten seconds.
   WindowDriver(std::u16string title, std::function<void(HWND)> action)
-      : title_(std::move(title)),
-        thread_([this, owner = GetCurrentThreadId(), action = std::move(action)] {
+      : title_(std::move(title)), thread_([this, owner = GetCurrentThreadId(), action = std::move(action)] {
           if (const HWND window = WaitForDialog(owner)) {
             action(window);
             acted_ = true;
@@ -48,9 +47,7 @@ class WindowDriver {
     PostMessageW(control, WM_KEYUP, key, static_cast<LPARAM>(0xC0000001));
   }
 
-  static void Click(HWND dialog, int button) {
-    PostMessageW(GetDlgItem(dialog, button), BM_CLICK, 0, 0);
-  }
+  static void Click(HWND dialog, int button) { PostMessageW(GetDlgItem(dialog, button), BM_CLICK, 0, 0); }
 
   // Nothing of the window's texts is cut: every label is as large as its text needs.
   static bool ShowsAllOf(HWND label) {
@@ -71,7 +68,8 @@ class WindowDriver {
   HWND WaitForDialog(DWORD ownerThread) const {
     for (int attempt = 0; attempt < 2000; ++attempt) {
       for (HWND window = nullptr; (window = FindWindowExW(nullptr, window, L"#32770", Wide(title_)));)
-        if (IsWindowVisible(window) && GetWindowThreadProcessId(window, nullptr) == ownerThread) return window;
+        if (IsWindowVisible(window) && GetWindowThreadProcessId(window, nullptr) == ownerThread)
+          return window;
       Sleep(5);
     }
     return nullptr;

@@ -15,6 +15,7 @@ using testing::ElementsAre;
 
 std::vector<std::u16string> Texts(const std::vector<Line>& lines) {
   std::vector<std::u16string> texts;
+  texts.reserve(lines.size());
   for (const Line& line : lines) texts.push_back(line.text);
   return texts;
 }

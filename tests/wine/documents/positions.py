@@ -34,7 +34,7 @@ def fields(width, height):
         column, row = index % columns, index // columns
         left = 300 + column * (box + 150)
         top = 150 + row * ((height - 900) // rows)
-        text = (f"Ñandú{index}", f"{index}.234.567,89", f"Çañón·{index}")[index % 3]
+        text = (f"Ñandú{index}", f"{index}.234.567,89", f"Çañón/{index}")[index % 3]
         yield left, top, box, FONTS[index % len(FONTS)], (LEFT, RIGHT, CENTRE)[index % 3], text
 
 

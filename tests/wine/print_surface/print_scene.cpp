@@ -84,14 +84,19 @@ void PrintForEdges(const std::u16string& device, double width, double height) {
   settings.Choose({0, u"PS", width, height});
   const platform::win32::OwnedDc dc(
       CreateDCW(L"WINSPOOL", platform::win32::Wide(device), nullptr, &settings.Mode()));
-  const double marginX = GetDeviceCaps(dc.Get(), PHYSICALOFFSETX) * 1440.0 / GetDeviceCaps(dc.Get(), LOGPIXELSX);
-  const double marginY = GetDeviceCaps(dc.Get(), PHYSICALOFFSETY) * 1440.0 / GetDeviceCaps(dc.Get(), LOGPIXELSY);
+  const double marginX =
+      GetDeviceCaps(dc.Get(), PHYSICALOFFSETX) * 1440.0 / GetDeviceCaps(dc.Get(), LOGPIXELSX);
+  const double marginY =
+      GetDeviceCaps(dc.Get(), PHYSICALOFFSETY) * 1440.0 / GetDeviceCaps(dc.Get(), LOGPIXELSY);
   for (const bench::SceneField& field : fields) {
     const bool right = field.alignment == bench::Alignment::Right;
     const bool centre = field.alignment == bench::Alignment::Centre;
     const double edge = field.left + (right ? field.width : centre ? field.width / 2 : 0);
     std::printf("%s\t%s\t%.1f\t%.1f\n", runtime::ToUtf8(field.text).c_str(),
-                right ? "right" : centre ? "centre" : "left", marginX + edge, marginY + field.top);
+                right    ? "right"
+                : centre ? "centre"
+                         : "left",
+                marginX + edge, marginY + field.top);
   }
 }
 
@@ -107,7 +112,8 @@ int wmain(int argc, wchar_t** argv) {
     } else if (mode == L"plain") {
       PrintByPlainCalls(platform::win32::Text(argv[2]));
     } else {
-      std::fprintf(stderr, "usage: print_scene edges PRINTER WIDTH HEIGHT | surface PRINTER | plain PRINTER\n");
+      std::fprintf(stderr,
+                   "usage: print_scene edges PRINTER WIDTH HEIGHT | surface PRINTER | plain PRINTER\n");
       return 2;
     }
   } catch (const runtime::RuntimeError& error) {
