@@ -51,9 +51,10 @@ expect_job() {
   expect_equal "words of job $number" "$*" "$(words_of "$QM_SCRATCH/$number.pdf")"
 }
 
-# words_of PDF: the texts of a document, in one line.
+# words_of PDF: the texts of a document, in one line. The font has one drawing for the hyphen and the soft
+# hyphen, and the printed file names it by the latter.
 words_of() {
-  pdftotext -layout "$1" - | tr -d '\f' | tr -s ' \n' ' ' | sed 's/^ //; s/ $//'
+  pdftotext -layout "$1" - | tr -d '\f' | tr -s ' \n' ' ' | sed 's/^ //; s/ $//; s/\xC2\xAD/-/g'
 }
 
 # paper_of PDF: width and height of the first page in points.
