@@ -12,15 +12,17 @@ export QM_PRINT_JOBS=$demo/jobs
 
 windows_path() { local path=$PWD/$1; printf 'Z:%s' "${path//\//\\}"; }
 
-# show NAME WHAT: the job printed last as build/demo/NAME.pdf and .png.
+# show NAME WHAT: what was printed since the last time, each job as build/demo/NAME-<n>.pdf and .png.
 show() {
-  local job
-  job=$(find "$QM_PRINT_JOBS" -name '*.ps' 2>/dev/null | sort | tail -1)
-  [ -n "$job" ] || { echo "demo: $1 was not printed" >&2; exit 1; }
-  ps2pdf -dAutoRotatePages=/None "$job" "$demo/$1.pdf"
-  pdftoppm -r 100 -png -singlefile "$demo/$1.pdf" "$demo/$1"
+  local job number=0
+  for job in "$QM_PRINT_JOBS"/*.ps; do
+    [ -f "$job" ] || { echo "demo: $1 was not printed" >&2; exit 1; }
+    number=$((number + 1))
+    ps2pdf -dAutoRotatePages=/None "$job" "$demo/$1-$number.pdf"
+    pdftoppm -r 100 -png -singlefile "$demo/$1-$number.pdf" "$demo/$1-$number"
+    echo "build/demo/$1-$number.pdf, build/demo/$1-$number.png: $2, job $number"
+  done
   rm -r "$QM_PRINT_JOBS"
-  echo "build/demo/$1.pdf, build/demo/$1.png: $2"
 }
 
 scripts/wine-run.sh regsvr32 /s "$(windows_path build/win64/QmModImp3.dll)"

@@ -2,7 +2,8 @@
 """count_tests.py BUILD_TREE: prints "passed failed skipped" of the last ctest run there.
 
 ctest's report (junit.xml) says how each program and script ended; a GoogleTest program's own report
-(results/NAME.xml) says how its cases did. Cases are counted where there is such a report, programs else.
+(results/NAME.xml) says how its cases did. Of programs named in the folder cases/ the cases are counted, and
+one that leaves no report has failed; of all other tests each is one.
 Failures, and the reasons of skips, go to standard error, a failing program's last lines with them.
 """
 import os
@@ -24,6 +25,21 @@ def case_counts(report):
     return passed, failed, skipped
 
 
+def counts_of(test, tree):
+    """What a test that ran counts for, and what is wrong with its report if anything."""
+    succeeded = test.get("status") == "run"
+    if not os.path.exists(os.path.join(tree, "cases", test.get("name"))):
+        return ((1, 0, 0) if succeeded else (0, 1, 0)), None
+    try:
+        counts = case_counts(os.path.join(tree, "results", test.get("name") + ".xml"))
+    except (OSError, ET.ParseError) as error:
+        return (0, 1, 0), f"no report of its cases: {error}"
+    # A program that failed outside its cases (a crash, a leak, the time limit) is a failure of its own.
+    if not succeeded and counts[1] == 0:
+        counts = (counts[0], 1, counts[2])
+    return counts, None
+
+
 def main():
     tree = sys.argv[1]
     preset = os.path.basename(tree)
@@ -32,19 +48,11 @@ def main():
         name = test.get("name")
         status = test.get("status")
         output = (test.findtext("system-out") or "").strip().splitlines()
-        report = os.path.join(tree, "results", name + ".xml")
-        counts = (0, 0, 0)
-        if status == "run" or status == "fail":
-            if os.path.exists(report):
-                try:
-                    counts = case_counts(report)
-                except ET.ParseError:
-                    counts = (0, 0, 0)
-            # A program that failed outside its cases (a crash, a leak, the time limit) is a failure of its own.
-            if status == "fail" and counts[1] == 0:
-                counts = (counts[0], 1, counts[2])
-            elif status == "run" and sum(counts) == 0 and not os.path.exists(report):
-                counts = (1, 0, 0)
+        if status in ("run", "fail"):
+            counts, complaint = counts_of(test, tree)
+            if complaint:
+                status = "fail"
+                output.append(complaint)
         else:
             counts = (0, 0, 1)
             print(f"skipped {preset}/{name}: {output[-1] if output else status}", file=sys.stderr)
