@@ -1,6 +1,6 @@
 #!/bin/bash
-# Two hosts print at once, a host keeps many objects, and model files lie where users put them: in folders with
-# blanks and letters beyond ASCII, or in the current one.
+# Two hosts print one model file at once, a host keeps many objects, and model files lie where users put them: in
+# folders with blanks and letters beyond ASCII, or in the current one.
 source "$(dirname "$0")/lib.sh"
 need ps2pdf pdftotext pdfimages convert
 fresh_folders
@@ -13,9 +13,14 @@ write_models "$models" \
   "$(modelo 2 "$a4 Copias=\"1\" Imagen=\"señal.bmp\"" "$(campo Nombre "Top=1000 $box")")"
 convert -size 50x20 xc:black -type TrueColor "$folder/señal.bmp"
 
+# Each in a prefix of its own: Wine's spooler does not serve two programs of one prefix at once.
+(use_fresh_component second)
 ids=()
 for host in uno dos; do
-  imprimir "$models" 1 4 "Nombre=$host" >"$QM_SCRATCH/$host.txt" &
+  (
+    [ $host = uno ] || use_prefix second
+    imprimir "$models" 1 4 "Nombre=$host" >"$QM_SCRATCH/$host.txt"
+  ) &
   ids+=($!)
 done
 for id in "${ids[@]}"; do wait "$id" || fail "a host failed"; done
@@ -27,7 +32,7 @@ for job in $(seq 8); do
   job_pdf "$job" "$QM_SCRATCH/$job.pdf"
   words_of "$QM_SCRATCH/$job.pdf"
   echo
-done | sort | uniq -c | tr -s ' ' >"$QM_SCRATCH/words.txt"
+done | sort | uniq -c | tr -s " " >"$QM_SCRATCH/words.txt"
 expect_equal "pages of both hosts" $' 4 dos\n 4 uno' "$(sed '/^ [0-9]* $/d' "$QM_SCRATCH/words.txt")"
 
 fresh_jobs

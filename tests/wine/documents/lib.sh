@@ -74,8 +74,12 @@ fresh_jobs() {
   mkdir -p "$QM_PRINT_JOBS"
 }
 
+use_prefix() {
+  export QM_WINEPREFIX=$QM_BINARY_DIR/prefixes/$1
+}
+
 # use_fresh_component NAME: a prefix of this test's own, with this build's component.
 use_fresh_component() {
-  export QM_WINEPREFIX=$QM_BINARY_DIR/prefixes/$1
+  use_prefix "$1"
   run regsvr32 /s "$(windows_path "$QM_BINARY_DIR/QmModImp3.dll")" || fail "regsvr32 failed in $QM_WINEPREFIX"
 }
