@@ -28,3 +28,5 @@ show() {
 scripts/wine-run.sh regsvr32 /s "$(windows_path build/win64/QmModImp3.dll)"
 scripts/wine-run.sh cscript //nologo "$(windows_path examples/factura.js)"
 show factura "an invoice, filled and printed by examples/factura.js on \"Impresora A4\""
+scripts/wine-run.sh cscript //nologo "$(windows_path examples/recibo.vbs)"
+show recibo "a receipt, filled and printed by examples/recibo.vbs"

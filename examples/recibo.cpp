@@ -1,4 +1,4 @@
-// recibo.cpp: a C++ host, early bound. Prints the example receipt on the default printer.
+// recibo.cpp: a C++ host, early bound. Prints the example receipt on its own printer.
 // Usage: recibo MODELOS.xml
 #include <windows.h>
 

@@ -1,4 +1,4 @@
-' Imprime un recibo de ejemplo en la impresora predeterminada.
+' Imprime un recibo de ejemplo en "Impresora Recibos"; si no existe, se pregunta por otra.
 ' Uso: cscript //nologo recibo.vbs
 Option Explicit
 Dim carpeta, impresion

@@ -46,9 +46,7 @@ VARTYPE VariantTypeOf(Type type) {
 
 // Script hosts pass their variables as references to variants.
 const VARIANT& Inner(const VARIANT& source) {
-  const VARIANT* value = &source;
-  while (value->vt == (VT_BYREF | VT_VARIANT) && value->pvarVal) value = value->pvarVal;
-  return *value;
+  return source.vt == (VT_BYREF | VT_VARIANT) && source.pvarVal ? *source.pvarVal : source;
 }
 
 bool IsMissing(const VARIANT& source) {

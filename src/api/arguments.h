@@ -2,8 +2,9 @@
 // The arguments of one late-bound call, as the vtable wants them. It holds converted copies for as long as
 // the call runs.
 
-#include <oaidl.h>
 #include <windows.h>
+
+#include <oaidl.h>
 
 #include <array>
 #include <string>

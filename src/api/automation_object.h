@@ -2,10 +2,11 @@
 // The base of the component's classes: identity, late-bound calls, class information and error support for
 // one dual interface. Classes add their fields with QM_FIELD and their methods with Call.
 
+#include <windows.h>
+
 #include <oaidl.h>
 #include <ocidl.h>
 #include <olectl.h>
-#include <windows.h>
 
 #include <cstdint>
 #include <string>

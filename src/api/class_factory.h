@@ -1,8 +1,9 @@
 #pragma once
 // Makes the component's objects for COM.
 
-#include <unknwn.h>
 #include <windows.h>
+
+#include <unknwn.h>
 
 namespace qm::api {
 

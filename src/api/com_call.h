@@ -3,8 +3,9 @@
 // A RuntimeError becomes HRESULT 0x800A0000 + number with IErrorInfo, exhausted memory error 7, anything else
 // error 51. Null pointers where the interface wants a place are error 5.
 
-#include <oaidl.h>
 #include <windows.h>
+
+#include <oaidl.h>
 
 #include <string_view>
 #include <utility>

@@ -2,8 +2,9 @@
 // The connection point of a class with one event interface: hosts advise, unadvise and enumerate as they
 // like.
 
-#include <ocidl.h>
 #include <windows.h>
+
+#include <ocidl.h>
 #include <wrl/client.h>
 
 #include <vector>

@@ -6,8 +6,9 @@
 // for values, 94 for Null, 448 to 450 for names and counts. Needs no registered type library, neither the
 // component's nor the record-file library's.
 
-#include <oaidl.h>
 #include <windows.h>
+
+#include <oaidl.h>
 
 #include "api/typelib/definition.h"
 

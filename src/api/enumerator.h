@@ -1,8 +1,9 @@
 #pragma once
 // A COM enumerator over a copy of a list of interface pointers.
 
-#include <ocidl.h>
 #include <windows.h>
+
+#include <ocidl.h>
 #include <wrl/client.h>
 
 #include <algorithm>

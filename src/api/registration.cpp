@@ -37,7 +37,11 @@ std::wstring ClassPath(const Class& each) { return kClassesPath + (L"CLSID\\" + 
 std::wstring InterfacePath(const Interface& face) { return kClassesPath + (L"Interface\\" + Text(face.id)); }
 std::wstring LibraryKeyPath() { return kClassesPath + (L"TypeLib\\" + Text(kLibraryId)); }
 std::wstring VersionPath() { return LibraryKeyPath() + L"\\" + kVersion; }
-std::wstring LocalePath() { return VersionPath() + L"\\409"; }
+// The library's own language, and the neutral one, to which a look-up in any other falls back.
+constexpr const wchar_t* kLocales[] = {L"409", L"0"};
+std::wstring PlatformPath(const wchar_t* locale) {
+  return VersionPath() + L"\\" + locale + L"\\" + kPlatform;
+}
 
 HKEY RootOf(Scope scope) { return scope == Scope::Machine ? HKEY_LOCAL_MACHINE : HKEY_CURRENT_USER; }
 
@@ -64,7 +68,7 @@ void AddInterface(RegistryChanges& changes, const Interface& face) {
 
 void AddLibrary(RegistryChanges& changes, const std::wstring& file) {
   changes.SetText(VersionPath(), L"", Wide(kLibraryName));
-  changes.SetText(LocalePath() + L"\\" + kPlatform, L"", file);
+  for (const wchar_t* locale : kLocales) changes.SetText(PlatformPath(locale), L"", file);
   changes.SetText(VersionPath() + L"\\FLAGS", L"", L"0");
   changes.SetText(VersionPath() + L"\\HELPDIR", L"", file.substr(0, file.rfind(L'\\')));
 }
@@ -116,7 +120,7 @@ HRESULT Unregister(Scope scope) noexcept {
   return Guarded([&] {
     const HKEY root = RootOf(scope);
     for (const Class& each : Classes()) DeleteTree(root, ClassPath(each));
-    DeleteTree(root, LocalePath() + L"\\" + kPlatform);
+    for (const wchar_t* locale : kLocales) DeleteTree(root, PlatformPath(locale));
     if (!KeyExists(root, ClassPath(Classes().front()), kOtherView)) RemoveShared(root);
   });
 }

@@ -1,8 +1,9 @@
 #pragma once
 // BSTRs to the core's texts and back. A null BSTR is an empty text; embedded zeros are kept.
 
-#include <oleauto.h>
 #include <windows.h>
+
+#include <oleauto.h>
 
 #include <new>
 #include <string>

@@ -1,8 +1,9 @@
 #pragma once
 // The component's own type library, the one embedded in its file.
 
-#include <oaidl.h>
 #include <windows.h>
+
+#include <oaidl.h>
 
 #include <string>
 

@@ -4,8 +4,9 @@
 // overflow;
 //         an object stands for its default property, whose errors pass as they are.
 
-#include <oaidl.h>
 #include <windows.h>
+
+#include <oaidl.h>
 
 #include <string>
 

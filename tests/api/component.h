@@ -1,10 +1,11 @@
 #pragma once
 // The built component, loaded without registration from beside the test program, and short ways to call it.
 
+#include <windows.h>
+
 #include <oaidl.h>
 #include <ocidl.h>
 #include <oleauto.h>
-#include <windows.h>
 #include <wrl/client.h>
 
 #include <initializer_list>

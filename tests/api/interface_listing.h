@@ -1,8 +1,9 @@
 #pragma once
 // A type library as a text that a person can review: one line for every function, in vtable order.
 
-#include <oaidl.h>
 #include <windows.h>
+
+#include <oaidl.h>
 
 #include <string>
 

@@ -84,6 +84,21 @@ TEST(Interface, TypeLibrariesMadeFromTheTableAreTheKeptOnesByteForByte) {
 }
 #endif
 
+TEST(Interface, TheFileTellsItsVersion) {
+  const Component component;
+  std::vector<char> block(GetFileVersionInfoSizeW(component.Path().c_str(), nullptr));
+  ASSERT_TRUE(
+      GetFileVersionInfoW(component.Path().c_str(), 0, static_cast<DWORD>(block.size()), block.data()));
+  VS_FIXEDFILEINFO* fixed = nullptr;
+  UINT size = 0;
+  ASSERT_TRUE(VerQueryValueW(block.data(), L"\\", reinterpret_cast<void**>(&fixed), &size));
+  EXPECT_EQ(fixed->dwFileVersionMS, MAKELONG(0, 1));
+  wchar_t* name = nullptr;
+  ASSERT_TRUE(VerQueryValueW(block.data(), L"\\StringFileInfo\\0C0A04B0\\FileDescription",
+                             reinterpret_cast<void**>(&name), &size));
+  EXPECT_STREQ(name, L"Modelos de impresi\u00F3n");
+}
+
 TEST(Interface, EveryClassTellsItsTypeAndItsEvents) {
   const Component component;
   const auto form = component.NewPrintForm();

@@ -77,6 +77,30 @@ TEST_F(Registration, LeavesNothingAfterUnregistering) {
   EXPECT_EQ(Entry("DllUnregisterServer"), S_OK);
 }
 
+TEST_F(Registration, ForTheUserAloneTouchesOnlyTheUsersPart) {
+  RegistryKey user;
+  ASSERT_EQ(
+      RegCreateKeyExW(sandbox_.Get(), L"user", 0, nullptr, 0, KEY_ALL_ACCESS, nullptr, user.Out(), nullptr),
+      ERROR_SUCCESS);
+  HMODULE library = LoadLibraryW(L"QmModImp3.dll");
+  const auto install = reinterpret_cast<HRESULT(STDAPICALLTYPE*)(BOOL, const wchar_t*)>(
+      reinterpret_cast<void*>(GetProcAddress(library, "DllInstall")));
+  ASSERT_NE(install, nullptr);
+  RegOverridePredefKey(HKEY_CURRENT_USER, user.Get());
+  const HRESULT installed = install(TRUE, L"user");
+  const bool inUser = KeyExists(user.Get(), kClass, View::Own);
+  const bool inMachine = Exists(kClass);
+  const HRESULT removed = install(FALSE, L"user");
+  const bool stays = KeyExists(user.Get(), kClass, View::Own);
+  RegOverridePredefKey(HKEY_CURRENT_USER, nullptr);
+  FreeLibrary(library);
+  EXPECT_EQ(installed, S_OK);
+  EXPECT_TRUE(inUser);
+  EXPECT_FALSE(inMachine);
+  EXPECT_EQ(removed, S_OK);
+  EXPECT_FALSE(stays);
+}
+
 TEST_F(Registration, ThatCannotBeFinishedIsUndone) {
   // A volatile key takes no lasting keys below it: registering the type library fails, after the classes.
   RegistryKey classes, libraries;

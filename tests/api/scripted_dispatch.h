@@ -1,8 +1,9 @@
 #pragma once
 // An automation object of a host: counts its references and calls, and does in a call what the test says.
 
-#include <oaidl.h>
 #include <windows.h>
+
+#include <oaidl.h>
 
 #include <functional>
 

@@ -1,7 +1,8 @@
 // generate FOLDER: writes everything that is made from the interface table below that folder.
 
-#include <objbase.h>
 #include <windows.h>
+
+#include <objbase.h>
 
 #include <cstdio>
 #include <string>

@@ -1,9 +1,10 @@
 // dispatch_host MODELFILE [MANIFEST FOLDER]: a C++ host that calls by name only, from the program id to the
 // last action, and that calls through the component's own type information as well.
 
+#include <windows.h>
+
 #include <objbase.h>
 #include <oleauto.h>
-#include <windows.h>
 #include <wrl/client.h>
 
 #include <cwchar>

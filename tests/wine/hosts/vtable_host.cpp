@@ -1,9 +1,10 @@
 // vtable_host MODELFILE [MANIFEST FOLDER]: a host that was compiled long ago. It knows the component's vtable
 // by the numbers of its places alone, from its own list and not from the component's headers.
 
+#include <windows.h>
+
 #include <objbase.h>
 #include <oleauto.h>
-#include <windows.h>
 
 #include <cwchar>
 #include <initializer_list>
