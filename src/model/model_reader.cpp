@@ -10,7 +10,7 @@ namespace qm::model {
 namespace {
 
 bool IsBlank(char c) { return c == ' ' || c == '\t' || c == '\r' || c == '\n'; }
-bool EndsName(char c) { return IsBlank(c) || c == '/' || c == '>' || c == '='; }
+bool EndsName(char c) { return c <= '>' && (IsBlank(c) || c == '/' || c == '>' || c == '='); }
 
 std::string_view LocalName(std::string_view name) { return name.substr(name.find(':') + 1); }
 
@@ -107,16 +107,10 @@ class Reader {
   void Enter(std::string_view name) {
     if (depth_ == kField) {
       inField_ = name == "Campo";
-      if (inField_) AddField();
+      if (inField_) texts_.fields.emplace_back().reserve(kFieldElementNames.size());
     } else if (depth_ == kProperty) {
       inProperty_ = inField_ && AddProperty(name);
     }
-  }
-
-  // Most fields have as many properties as the one before.
-  void AddField() {
-    const std::size_t properties = texts_.fields.empty() ? 0 : texts_.fields.back().size();
-    texts_.fields.emplace_back().reserve(properties);
   }
 
   // Looked for from where the one before was found: elements mostly stand in their usual order.
@@ -125,7 +119,7 @@ class Reader {
       const std::size_t element = likely_;
       likely_ = (likely_ + 1) % kFieldElementNames.size();
       if (kFieldElementNames[element] != name) continue;
-      texts_.fields.back().push_back({static_cast<FieldElement>(element), {}});
+      texts_.fields.back().emplace_back().element = static_cast<FieldElement>(element);
       return true;
     }
     return false;
