@@ -16,6 +16,12 @@ using runtime::ErrorNumber;
 constexpr double kHimetricPerInch = 2540;
 constexpr double kPixelsPerInch = 96;
 
+// Loaders differ in what they make of a bitmap file that ends within its headers; none of it is a picture.
+bool IsCutBitmap(std::string_view bytes) {
+  constexpr std::size_t kHeaders = sizeof(BITMAPFILEHEADER) + sizeof(BITMAPCOREHEADER);
+  return bytes.starts_with("BM") && bytes.size() < kHeaders;
+}
+
 Reference<IStream> StreamOf(std::string_view bytes) {
   OwnedGlobalMemory memory(GlobalAlloc(GMEM_MOVEABLE, bytes.empty() ? 1 : bytes.size()));
   void* destination = memory ? GlobalLock(memory.Get()) : nullptr;
@@ -111,6 +117,7 @@ std::unique_ptr<Picture> Win32Pictures::Load(std::u16string_view path) {
 }
 
 std::unique_ptr<Picture> Win32Pictures::Decode(std::string_view bytes) {
+  if (IsCutBitmap(bytes)) Throw(ErrorNumber::InvalidPicture);
   const Reference<IStream> stream = StreamOf(bytes);
   Reference<IPicture> picture;
   if (FAILED(OleLoadPicture(stream.Get(), static_cast<LONG>(bytes.size()), FALSE, IID_IPicture,

@@ -77,6 +77,7 @@ TEST_F(PictureFiles, ABrokenFileIsError481) {
   EXPECT_RUNTIME_ERROR(481, (void)Loaded("no picture at all"));
   EXPECT_RUNTIME_ERROR(481, (void)Loaded(""));
   EXPECT_RUNTIME_ERROR(481, (void)Loaded(BytesOf(kRedJpeg).substr(0, 40)));
+  EXPECT_RUNTIME_ERROR(481, (void)Loaded("BM nothing of the kind"));
 }
 
 TEST_F(PictureFiles, AMissingFileIsError53) {
