@@ -39,7 +39,10 @@ int wmain(int count, wchar_t** arguments) {
   }
   const bool written = Write("QmModImp3.h", qm::api::ComponentHeader()) &&
                        Write("QmModImp3.x64.manifest", qm::api::ComponentManifest(true)) &&
-                       Write("QmModImp3.x86.manifest", qm::api::ComponentManifest(false));
+                       Write("QmModImp3.x86.manifest", qm::api::ComponentManifest(false)) &&
+                       Write("QmFile2.h", qm::api::RecordFileHeader()) &&
+                       Write("QmFile2.x64.manifest", qm::api::RecordFileManifest(true)) &&
+                       Write("QmFile2.x86.manifest", qm::api::RecordFileManifest(false));
   CoUninitialize();
   return written ? 0 : 1;
 }

@@ -28,6 +28,12 @@ std::string ComponentHeader() {
   return automation::HostHeader(kComponent, imports);
 }
 
+std::string RecordFileHeader() { return automation::HostHeader(kRecordFileLibrary); }
+
 std::string ComponentManifest(bool is64Bit) { return automation::Manifest(kComponent, "QmModImp3", is64Bit); }
+
+std::string RecordFileManifest(bool is64Bit) {
+  return automation::Manifest(kRecordFileLibrary, "QmFile2", is64Bit);
+}
 
 }  // namespace qm::api

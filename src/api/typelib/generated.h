@@ -10,6 +10,8 @@ namespace qm::api {
 void WriteTypeLibraries();
 
 [[nodiscard]] std::string ComponentHeader();
+[[nodiscard]] std::string RecordFileHeader();
 [[nodiscard]] std::string ComponentManifest(bool is64Bit);
+[[nodiscard]] std::string RecordFileManifest(bool is64Bit);
 
 }  // namespace qm::api

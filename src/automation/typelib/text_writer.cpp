@@ -100,12 +100,12 @@ std::string HostHeader(const Library& library, std::span<const Interface* const>
   const std::string space = ToUtf8(library.name);
   std::string text =
       "#pragma once\n"
-      "// The interfaces of the component for C++ hosts: CoCreateInstance(CLSID_" +
-      ToUtf8(first.name) + ", ..., IID_" + ToUtf8(first.face->name) +
+      "// The interfaces of " +
+      space + " for C++ hosts:\n// CoCreateInstance(CLSID_" + ToUtf8(first.name) + ", ..., IID_" +
+      ToUtf8(first.face->name) +
       ", ...).\n"
-      "// Made from the interface table by tools/regenerate_interface.sh; do not edit. Errors of the "
-      "component are\n"
-      "// HRESULT 0x800A0000 + number, with IErrorInfo.\n"
+      "// Made from the interface table by tools/regenerate_interface.sh; do not edit.\n"
+      "// Its errors are HRESULT 0x800A0000 + number, with IErrorInfo.\n"
       "// clang-format off\n\n"
       "#include <windows.h>\n"
       "#include <oaidl.h>\n\n"

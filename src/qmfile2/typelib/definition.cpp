@@ -24,6 +24,18 @@ constexpr std::array kRecordFileMembers{
     Method(u"ValorCampo", 0x60030005, {ByRef(u"Campo", Type::Variant)}, Type::Variant),
     Method(u"NombreDelCampo", 0x60030006, {ByRef(u"Campo", Type::Integer)}, Type::Text),
     Method(u"NombreDeTabla", 0x60030007, {}, Type::Text),
+    Method(u"Abrir", 0x60030008, {ByRef(u"Ruta", Type::Text), ByRef(u"Directorio", Type::Text)}),
+    Method(u"Clave", 0x60030009, {ByRef(u"Campo", Type::Integer)}),
+    Method(u"Primero", 0x6003000A),
+    Method(u"Buscar", 0x6003000B, {ByRef(u"Valor", Type::Text)}),
+    Method(u"Posicion", 0x6003000C, {}, Type::Long),
+    Method(u"AñadirRegistro", 0x6003000D),
+    Method(u"EscribirCampo", 0x6003000E, {ByRef(u"Valor", Type::Text), ByRef(u"Campo", Type::Integer)}),
+    Method(u"Guardar", 0x6003000F),
+    Method(u"Cerrar", 0x60030010),
+    Method(u"Crear", 0x60030011,
+           {ByRef(u"Ruta", Type::Text), ByRef(u"Directorio", Type::Text), ByRef(u"Tabla", Type::Text),
+            ByRef(u"Campos", Type::Text)}),
 };
 
 }  // namespace
