@@ -1,6 +1,7 @@
 #!/bin/bash
-# demo.sh: installs what is missing, builds the component, registers it in the project's private Wine prefix,
-# has a script host print with it on the prefix's printers, and leaves what was printed in build/demo/.
+# demo.sh: installs what is missing, builds the component and the record-file library, registers them in the
+# project's private Wine prefix, has script hosts print on the prefix's printers, and leaves what was printed in
+# build/demo/.
 set -euo pipefail
 cd "$(dirname "$0")"
 scripts/build.sh win64
@@ -25,7 +26,9 @@ show() {
   rm -r "$QM_PRINT_JOBS"
 }
 
-scripts/wine-run.sh regsvr32 /s "$(windows_path build/win64/QmModImp3.dll)"
+for library in QmFile2 QmModImp3; do
+  scripts/wine-run.sh regsvr32 /s "$(windows_path build/win64/$library.dll)"
+done
 scripts/wine-run.sh cscript //nologo "$(windows_path examples/factura.js)"
 show factura "an invoice, filled and printed by examples/factura.js on \"Impresora A4\""
 scripts/wine-run.sh cscript //nologo "$(windows_path examples/recibo.vbs)"

@@ -1,7 +1,7 @@
 #!/bin/bash
-# regenerate_interface.sh: makes anew what is made from the interface table (src/api/typelib/definition.cpp): the type
+# regenerate_interface.sh: makes anew what is made from the interface tables (src/*/typelib/definition.cpp): the type
 # libraries, the C++ header for hosts, the side-by-side manifests. Review the changes: hosts are compiled against them.
-# tests/golden/interface.txt follows with QM_UPDATE_GOLDEN=1 scripts/wine-run.sh build/win64/api_tests.exe.
+# tests/golden/interface*.txt follow with QM_UPDATE_GOLDEN=1 scripts/wine-run.sh build/win64/api_tests.exe.
 set -euo pipefail
 root=$(cd "$(dirname "$0")/.." && pwd)
 cd "$root"
@@ -11,8 +11,12 @@ cmake --build --preset win64 --target generate_interface
 made=$(mktemp -d)
 trap 'rm -rf "$made"' EXIT
 scripts/wine-run.sh build/win64/generate_interface.exe "Z:${made//\//\\}"
-mkdir -p src/api/typelib/x64 src/api/typelib/x86 packaging
-for architecture in x64 x86; do cp "$made/$architecture"/*.tlb "src/api/typelib/$architecture/"; done
+for architecture in x64 x86; do
+  mkdir -p src/{api,qmfile2}/typelib/$architecture packaging
+  cp "$made/$architecture/QmModImp3.tlb" src/api/typelib/$architecture/
+  cp "$made/$architecture/QmFile2.tlb" src/qmfile2/typelib/$architecture/
+done
 cp "$made/QmModImp3.h" src/api/typelib/
+cp "$made/QmFile2.h" src/qmfile2/typelib/
 cp "$made"/*.manifest packaging/
-git status --short -- src/api/typelib packaging
+git status --short -- src/api/typelib src/qmfile2/typelib packaging

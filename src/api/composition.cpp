@@ -1,6 +1,6 @@
 #include "api/composition.h"
 
-#include "api/com_call.h"
+#include "automation/com_call.h"
 #include "print/model_choice.h"
 
 namespace qm::api {
@@ -8,7 +8,7 @@ namespace qm::api {
 bool Composition::Imprimir(data::PrintJob& job) {
   const print::Environment environment = NewEnvironment();
   const model::ModelTexts model = print::FindCurrentModel(job, environment);
-  if (print::EsEtiqueta(model)) ThrowNotSupported();
+  if (print::EsEtiqueta(model)) automation::ThrowNotSupported();
   return print::Print(job, environment, model);
 }
 

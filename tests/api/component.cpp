@@ -2,7 +2,7 @@
 
 namespace qm::tests {
 
-Component::Component() : library_(LoadLibraryW(L"QmModImp3.dll")) {}
+Component::Component(const wchar_t* file) : library_(LoadLibraryW(file)) {}
 Component::~Component() { FreeLibrary(library_); }
 
 HRESULT Component::GetClassObject(REFCLSID classId, REFIID id, void** object) const {

@@ -24,7 +24,7 @@ using namespace Qm_Modelo_Impresion3;
 // Loads the library anew: objects must be gone before it goes.
 class Component {
  public:
-  Component();
+  explicit Component(const wchar_t* file = L"QmModImp3.dll");
   ~Component();
   Component(const Component&) = delete;
   Component& operator=(const Component&) = delete;

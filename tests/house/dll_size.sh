@@ -2,7 +2,9 @@
 # The component travels with accounting hosts and is loaded into them: it stays small.
 limit_kb=3000
 [ -f "$QM_SOURCE_DIR/src/api/CMakeLists.txt" ] || { echo "skipped: no automation server is built yet"; exit 77; }
-[ -f "$QM_BINARY_DIR/QmModImp3.dll" ] || { echo "$QM_BINARY_DIR/QmModImp3.dll is missing"; exit 1; }
+for name in QmModImp3 QmFile2; do
+  [ -f "$QM_BINARY_DIR/$name.dll" ] || { echo "$QM_BINARY_DIR/$name.dll is missing"; exit 1; }
+done
 status=0
 for dll in "$QM_BINARY_DIR"/*.dll; do
   size_kb=$(($(stat -c %s "$dll") / 1024))

@@ -1,7 +1,8 @@
 #pragma once
-// The interfaces of the component for C++ hosts: CoCreateInstance(CLSID_PrintForm, ..., IID__PrintForm, ...).
-// Made from the interface table by tools/regenerate_interface.sh; do not edit. Errors of the component are
-// HRESULT 0x800A0000 + number, with IErrorInfo.
+// The interfaces of Qm_Modelo_Impresion3 for C++ hosts:
+// CoCreateInstance(CLSID_PrintForm, ..., IID__PrintForm, ...).
+// Made from the interface table by tools/regenerate_interface.sh; do not edit.
+// Its errors are HRESULT 0x800A0000 + number, with IErrorInfo.
 // clang-format off
 
 #include <windows.h>
@@ -34,6 +35,16 @@ _QmFileControl2 : public IDispatch {
   virtual HRESULT STDMETHODCALLTYPE ValorCampo(VARIANT* Campo, VARIANT* result) = 0;
   virtual HRESULT STDMETHODCALLTYPE NombreDelCampo(SHORT* Campo, BSTR* result) = 0;
   virtual HRESULT STDMETHODCALLTYPE NombreDeTabla(BSTR* result) = 0;
+  virtual HRESULT STDMETHODCALLTYPE Abrir(BSTR* Ruta, BSTR* Directorio) = 0;
+  virtual HRESULT STDMETHODCALLTYPE Clave(SHORT* Campo) = 0;
+  virtual HRESULT STDMETHODCALLTYPE Primero() = 0;
+  virtual HRESULT STDMETHODCALLTYPE Buscar(BSTR* Valor) = 0;
+  virtual HRESULT STDMETHODCALLTYPE Posicion(LONG* result) = 0;
+  virtual HRESULT STDMETHODCALLTYPE AñadirRegistro() = 0;
+  virtual HRESULT STDMETHODCALLTYPE EscribirCampo(BSTR* Valor, SHORT* Campo) = 0;
+  virtual HRESULT STDMETHODCALLTYPE Guardar() = 0;
+  virtual HRESULT STDMETHODCALLTYPE Cerrar() = 0;
+  virtual HRESULT STDMETHODCALLTYPE Crear(BSTR* Ruta, BSTR* Directorio, BSTR* Tabla, BSTR* Campos) = 0;
 };
 
 MIDL_INTERFACE("E0CFBEA5-3967-4D3E-96B8-5B1BEF01EC6C")

@@ -1,6 +1,7 @@
 #include "platform/win32/files.h"
 
 #include <algorithm>
+#include <vector>
 
 #include "platform/win32/errors.h"
 #include "platform/win32/handles.h"
@@ -77,12 +78,12 @@ class FileBeside {
     file_.Reset();
   }
 
+  // A move over the old file is one step, whoever dies meanwhile; ReplaceFile is several, and between them
+  // there may be no file of that name.
   void TakeThePlaceOf(const std::u16string& path) {
-    if (!AttributesOf(path)) {
-      MoveTo(path, MOVEFILE_WRITE_THROUGH);
-    } else if (!ReplaceFileW(Wide(path), Wide(name_), nullptr,
-                             REPLACEFILE_WRITE_THROUGH | REPLACEFILE_IGNORE_MERGE_ERRORS, nullptr, nullptr)) {
-      RecoverFrom(GetLastError(), path);
+    if (AttributesOf(path)) CarryOverFrom(path);
+    if (!MoveFileExW(Wide(name_), Wide(path), MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH)) {
+      ReplaceWhileRead(path, GetLastError());
     }
     kept_ = true;
   }
@@ -99,22 +100,30 @@ class FileBeside {
     return suffix + u".tmp";
   }
 
-  void MoveTo(const std::u16string& path, DWORD flags) {
-    if (!MoveFileExW(Wide(name_), Wide(path), flags)) ThrowLastFileError();
+  // Who may do what with the old file holds for the new one; where a file system knows no such rights,
+  // nothing is lost.
+  void CarryOverFrom(const std::u16string& path) {
+    DWORD size = 0;
+    GetFileSecurityW(Wide(path), DACL_SECURITY_INFORMATION, nullptr, 0, &size);
+    std::vector<BYTE> rights(size);
+    if (size > 0 && GetFileSecurityW(Wide(path), DACL_SECURITY_INFORMATION, rights.data(), size, &size)) {
+      SetFileSecurityW(Wide(name_), DACL_SECURITY_INFORMATION, rights.data());
+    }
+    SetFileAttributesW(Wide(name_), *AttributesOf(path) | FILE_ATTRIBUTE_ARCHIVE);
   }
 
-  // ReplaceFile may have taken the old file away before it failed: then our file is the only copy. Some
-  // network drives do not know it at all.
-  void RecoverFrom(DWORD error, const std::u16string& path) {
-    if (!AttributesOf(path)) {
-      kept_ = true;
-      MoveTo(path, MOVEFILE_WRITE_THROUGH);
-    } else if (error == ERROR_NOT_SUPPORTED || error == ERROR_INVALID_FUNCTION ||
-               error == ERROR_CALL_NOT_IMPLEMENTED) {
-      MoveTo(path, MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH);
-    } else {
-      ThrowFileError(error);
+  // A file that somebody is reading cannot be moved over, but replaced.
+  void ReplaceWhileRead(const std::u16string& path, DWORD error) {
+    const bool inUse = error == ERROR_ACCESS_DENIED || error == ERROR_SHARING_VIOLATION;
+    if (!inUse || !AttributesOf(path)) ThrowFileError(error);
+    if (ReplaceFileW(Wide(path), Wide(name_), nullptr,
+                     REPLACEFILE_WRITE_THROUGH | REPLACEFILE_IGNORE_MERGE_ERRORS, nullptr, nullptr)) {
+      return;
     }
+    error = GetLastError();
+    if (AttributesOf(path)) ThrowFileError(error);
+    kept_ = true;  // the old file was taken away before it failed: ours is the only copy
+    if (!MoveFileExW(Wide(name_), Wide(path), MOVEFILE_WRITE_THROUGH)) ThrowLastFileError();
   }
 
   std::u16string name_;

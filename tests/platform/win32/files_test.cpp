@@ -57,6 +57,14 @@ TEST_F(FilesOnDisk, ReplacingLeavesOnlyTheNewFile) {
   EXPECT_THAT(folder.Names(), ElementsAre(u"modelo.xml"));
 }
 
+TEST_F(FilesOnDisk, ReplacingKeepsAHiddenFileHidden) {
+  const std::u16string path = folder.File(u"modelo.xml");
+  files.Replace(path, "old");
+  SetFileAttributesW(Wide(path), FILE_ATTRIBUTE_HIDDEN);
+  files.Replace(path, "new");
+  EXPECT_TRUE(GetFileAttributesW(Wide(path)) & FILE_ATTRIBUTE_HIDDEN);
+}
+
 TEST_F(FilesOnDisk, ReplacingAReadOnlyFileIsError75AndKeepsIt) {
   const std::u16string path = folder.File(u"modelo.xml");
   files.Replace(path, "old");

@@ -11,6 +11,10 @@ component() {
   windows_path "$QM_BINARY_DIR/QmModImp3.dll"
 }
 
+record_file_library() {
+  windows_path "$QM_BINARY_DIR/QmFile2.dll"
+}
+
 # expect_good_run PROGRAM ARGS...: a host that says at its end that everything was as expected.
 expect_good_run() {
   local output status=0

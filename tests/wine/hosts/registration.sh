@@ -1,16 +1,22 @@
 #!/bin/bash
 # Both bitnesses are registered side by side: either goes without the other, and both leave nothing behind.
 source "$(dirname "$0")/lib.sh"
-x64=$QM_SOURCE_DIR/build/win64/QmModImp3.dll
-x86=$QM_SOURCE_DIR/build/win32/QmModImp3.dll
-[ -f "$x64" ] && [ -f "$x86" ] || { echo "skipped: needs both builds, win64 and win32" >&2; exit 77; }
+x64=$QM_SOURCE_DIR/build/win64
+x86=$QM_SOURCE_DIR/build/win32
+[ -f "$x64/QmModImp3.dll" ] && [ -f "$x86/QmModImp3.dll" ] || { echo "skipped: needs both builds, win64 and win32" >&2; exit 77; }
 [ -x /usr/lib/wine/wine ] || { echo "skipped: no 32-bit Wine on this machine" >&2; exit 77; }
 use_prefix registration
 fresh_folders
 wine_run=$QM_SOURCE_DIR/scripts/wine-run.sh
 
-regsvr64() { "$wine_run" regsvr32 /s "$@" "$(windows_path "$x64")"; }
-regsvr86() { "$wine_run" --win32 regsvr32 /s "$@" "$(windows_path "$x86")"; }
+regsvr64() {
+  "$wine_run" regsvr32 /s "$@" "$(windows_path "$x64/QmFile2.dll")"
+  "$wine_run" regsvr32 /s "$@" "$(windows_path "$x64/QmModImp3.dll")"
+}
+regsvr86() {
+  "$wine_run" --win32 regsvr32 /s "$@" "$(windows_path "$x86/QmFile2.dll")"
+  "$wine_run" --win32 regsvr32 /s "$@" "$(windows_path "$x86/QmModImp3.dll")"
+}
 
 # dump NAME: the machine's classes, one sorted line for each key and each value.
 dump() {
@@ -40,7 +46,9 @@ works64
 works86
 dump both
 for entry in 'CLSID\\{EF7037AF' 'Wow6432Node\\CLSID\\{EF7037AF' 'TypeLib\\{C4035D2F' 'Interface\\{8889E8E6' \
-             'Qm_Modelo_Impresion3.PrintForm\\Clsid' 'ThreadingModel"="Apartment"' '409\\win32' '409\\win64'; do
+             'Qm_Modelo_Impresion3.PrintForm\\Clsid' 'ThreadingModel"="Apartment"' '409\\win32' '409\\win64' \
+             'CLSID\\{44BEAA7F' 'Wow6432Node\\CLSID\\{44BEAA7F' 'TypeLib\\{8D6CD1EA' 'Interface\\{915BCCAB' \
+             'QmFile2.QmFileControl2\\Clsid'; do
   grep -qiF -- "${entry//\\\\/\\}" "$QM_SCRATCH/both.txt" || fail "nothing is registered as $entry"
 done
 
