@@ -1,5 +1,5 @@
 #!/bin/bash
-# regenerate_interface.sh: makes anew what is made from the interface table (src/api/typelib/definition.cpp): the type
+# regenerate_interface.sh: makes anew what is made from the interface tables (src/*/typelib/definition.cpp): the type
 # libraries, the C++ header for hosts, the side-by-side manifests. Review the changes: hosts are compiled against them.
 # tests/golden/interface.txt follows with QM_UPDATE_GOLDEN=1 scripts/wine-run.sh build/win64/api_tests.exe.
 set -euo pipefail

@@ -1,12 +1,12 @@
 #include "api/composition.h"
 
-#include "api/com_call.h"
+#include "automation/com_call.h"
 
 namespace qm::api {
 
 bool Composition::Imprimir(data::PrintJob& job) {
   const print::Environment environment = NewEnvironment();
-  if (print::EsEtiqueta(job, environment)) ThrowNotSupported();
+  if (print::EsEtiqueta(job, environment)) automation::ThrowNotSupported();
   return print::Print(job, environment);
 }
 

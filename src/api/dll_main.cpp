@@ -2,27 +2,31 @@
 
 #include <windows.h>
 
-#include "api/class_factory.h"
-#include "api/counted.h"
-#include "api/registration.h"
+#include "api/classes.h"
+#include "api/typelib/definition.h"
+#include "automation/class_factory.h"
+#include "automation/counted.h"
+#include "automation/registration.h"
 
-using qm::api::Scope;
+using qm::api::kComponent;
+using qm::automation::Scope;
 
 STDAPI DllGetClassObject(REFCLSID classId, REFIID id, LPVOID* object) {
-  return qm::api::GetClassFactory(classId, id, object);
+  return qm::automation::GetClassFactory(qm::api::CreatableClasses(), classId, id, object);
 }
 
-STDAPI DllCanUnloadNow() { return qm::api::LibraryUse::None() ? S_OK : S_FALSE; }
+STDAPI DllCanUnloadNow() { return qm::automation::LibraryUse::None() ? S_OK : S_FALSE; }
 
-STDAPI DllRegisterServer() { return qm::api::Register(Scope::Machine); }
+STDAPI DllRegisterServer() { return qm::automation::Register(kComponent, Scope::Machine); }
 
-STDAPI DllUnregisterServer() { return qm::api::Unregister(Scope::Machine); }
+STDAPI DllUnregisterServer() { return qm::automation::Unregister(kComponent, Scope::Machine); }
 
 // regsvr32 /n /i:user registers for the current user alone, without administrators' rights.
 STDAPI DllInstall(BOOL install, LPCWSTR commandLine) {
   const bool forUser = commandLine && lstrcmpiW(commandLine, L"user") == 0;
   const Scope scope = forUser ? Scope::User : Scope::Machine;
-  return install ? qm::api::Register(scope) : qm::api::Unregister(scope);
+  return install ? qm::automation::Register(kComponent, scope)
+                 : qm::automation::Unregister(kComponent, scope);
 }
 
 BOOL WINAPI DllMain(HINSTANCE library, DWORD reason, LPVOID) {

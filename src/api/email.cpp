@@ -2,6 +2,9 @@
 
 namespace qm::api {
 
+using automation::Required;
+using automation::ThrowNotSupported;
+
 HRESULT Email::LeerPerfiles(SHORT* porDefecto, BSTR* perfilPorDefecto, IDispatch** result) noexcept {
   return Call([&] {
     Required(porDefecto);

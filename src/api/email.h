@@ -1,12 +1,13 @@
 #pragma once
 // The class Email: a message to be sent with one of the user's mail profiles.
 
-#include "api/automation_object.h"
 #include "api/typelib/QmModImp3.h"
+#include "api/typelib/definition.h"
+#include "automation/automation_object.h"
 
 namespace qm::api {
 
-class Email final : public AutomationObject<Qm_Modelo_Impresion3::_Email, kEmailFace> {
+class Email final : public automation::AutomationObject<Qm_Modelo_Impresion3::_Email, kEmailFace> {
  public:
   QM_FIELD(BSTR, EmailDestinatario, emailDestinatario_)
   QM_FIELD(BSTR, NombreDestinatario, nombreDestinatario_)

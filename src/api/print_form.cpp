@@ -1,10 +1,17 @@
 #include "api/print_form.h"
 
+#include "api/model_number.h"
 #include "api/records.h"
 #include "data/fields.h"
 
 namespace qm::api {
 
+using automation::Export;
+using automation::Import;
+using automation::OwnedVariant;
+using automation::Required;
+using automation::TextOf;
+using automation::ThrowNotSupported;
 using Qm_Modelo_Impresion3::_Campos;
 using Qm_Modelo_Impresion3::_QmFileControl2;
 using Qm_Modelo_Impresion3::_Tablas;

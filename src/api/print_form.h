@@ -2,16 +2,18 @@
 // The class PrintForm: a print job of the host. It holds the job's state and hands each action to the part of
 // the component that does it.
 
-#include "api/automation_object.h"
 #include "api/composition.h"
-#include "api/connection_point.h"
 #include "api/typelib/QmModImp3.h"
-#include "api/variants.h"
+#include "api/typelib/definition.h"
+#include "automation/automation_object.h"
+#include "automation/connection_point.h"
+#include "automation/variants.h"
 #include "data/print_job.h"
 
 namespace qm::api {
 
-class PrintForm final : public AutomationObject<Qm_Modelo_Impresion3::_PrintForm, kPrintFormFace> {
+class PrintForm final
+    : public automation::AutomationObject<Qm_Modelo_Impresion3::_PrintForm, kPrintFormFace> {
  public:
   explicit PrintForm(Composition& composition);
 
@@ -71,12 +73,12 @@ class PrintForm final : public AutomationObject<Qm_Modelo_Impresion3::_PrintForm
 
   Composition& composition_;
   data::PrintJob job_;
-  OwnedVariant numeroModelo_;
+  automation::OwnedVariant numeroModelo_;
   std::u16string eDir_;  // this one and the next two are the host's own; nothing here uses them
   std::int32_t error_ = 0;
   std::u16string errDescription_;
-  bool impresionAnulada_ = false;  // set here, cleared only by the host
-  ConnectionPoints events_;        // hosts connect to Progress; it is never raised
+  bool impresionAnulada_ = false;        // set here, cleared only by the host
+  automation::ConnectionPoints events_;  // hosts connect to Progress; it is never raised
 };
 
 }  // namespace qm::api

@@ -4,13 +4,14 @@
 
 #include <memory>
 
-#include "api/automation_object.h"
 #include "api/typelib/QmModImp3.h"
+#include "api/typelib/definition.h"
+#include "automation/automation_object.h"
 #include "data/print_job.h"
 
 namespace qm::api {
 
-class Tablas final : public AutomationObject<Qm_Modelo_Impresion3::_Tablas, kTablasFace> {
+class Tablas final : public automation::AutomationObject<Qm_Modelo_Impresion3::_Tablas, kTablasFace> {
  public:
   explicit Tablas(std::shared_ptr<data::Table> table = std::make_shared<data::Table>())
       : table_(std::move(table)) {}
@@ -21,7 +22,7 @@ class Tablas final : public AutomationObject<Qm_Modelo_Impresion3::_Tablas, kTab
   std::shared_ptr<data::Table> table_;
 };
 
-class Campos final : public AutomationObject<Qm_Modelo_Impresion3::_Campos, kCamposFace> {
+class Campos final : public automation::AutomationObject<Qm_Modelo_Impresion3::_Campos, kCamposFace> {
  public:
   explicit Campos(std::shared_ptr<data::Field> field = std::make_shared<data::Field>())
       : field_(std::move(field)) {}
@@ -33,7 +34,8 @@ class Campos final : public AutomationObject<Qm_Modelo_Impresion3::_Campos, kCam
   std::shared_ptr<data::Field> field_;
 };
 
-class DatosTabla final : public AutomationObject<Qm_Modelo_Impresion3::_DatosTabla, kDatosTablaFace> {
+class DatosTabla final
+    : public automation::AutomationObject<Qm_Modelo_Impresion3::_DatosTabla, kDatosTablaFace> {
  public:
   QM_FIELD(BSTR, Tabla, cell_.tabla)
   QM_FIELD(BSTR, Campo, cell_.campo)

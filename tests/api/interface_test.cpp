@@ -7,12 +7,9 @@
 #include <fstream>
 #include <iterator>
 
-#include "api/typelib/text_writer.h"
+#include "api/typelib/generated.h"
 #include "tests/api/component.h"
 #include "tests/api/interface_listing.h"
-#ifdef _WIN64
-#include "api/typelib/typelib_writer.h"
-#endif
 
 namespace qm::tests {
 namespace {
@@ -63,9 +60,9 @@ TEST(Interface, OfTheRecordFileLibraryIsTheReviewedOne) {
 }
 
 TEST(Interface, TextsMadeFromTheTableAreTheKeptOnes) {
-  EXPECT_EQ(api::HostHeader(), FileText(Source("src/api/typelib/QmModImp3.h"))) << kMend;
-  EXPECT_EQ(api::Manifest(true), FileText(Source("packaging/QmModImp3.x64.manifest"))) << kMend;
-  EXPECT_EQ(api::Manifest(false), FileText(Source("packaging/QmModImp3.x86.manifest"))) << kMend;
+  EXPECT_EQ(api::ComponentHeader(), FileText(Source("src/api/typelib/QmModImp3.h"))) << kMend;
+  EXPECT_EQ(api::ComponentManifest(true), FileText(Source("packaging/QmModImp3.x64.manifest"))) << kMend;
+  EXPECT_EQ(api::ComponentManifest(false), FileText(Source("packaging/QmModImp3.x86.manifest"))) << kMend;
 }
 
 #ifdef _WIN64

@@ -2,15 +2,15 @@
 
 #include <gtest/gtest.h>
 
-#include "api/registry.h"
+#include "automation/registry.h"
 #include "tests/api/component.h"
 
 namespace qm::tests {
 namespace {
 
-using api::KeyExists;
-using api::RegistryKey;
-using api::View;
+using automation::KeyExists;
+using automation::RegistryKey;
+using automation::View;
 
 constexpr const wchar_t* kClass = L"Software\\Classes\\CLSID\\{EF7037AF-BD84-4BAA-94E3-C235A87CBF75}";
 

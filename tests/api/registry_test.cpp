@@ -2,9 +2,9 @@
 
 #include <gtest/gtest.h>
 
-#include "api/registry.h"
+#include "automation/registry.h"
 
-namespace qm::api {
+namespace qm::automation {
 namespace {
 
 class Registry : public testing::Test {
@@ -74,4 +74,4 @@ TEST_F(Registry, KeysGoWithAllBelowThem) {
 }
 
 }  // namespace
-}  // namespace qm::api
+}  // namespace qm::automation

@@ -18,12 +18,13 @@ ALLOWED = {
     "mail": ["runtime", "platform", "print/text", "print", "data"],
     "designer": ["runtime", "platform", "print/text", "print", "model", "data"],
     "recordfile": ["runtime", "platform"],
-    "qmfile2": ["runtime", "platform", "recordfile"],
+    "automation": ["runtime"],
+    "qmfile2": ["runtime", "platform", "recordfile", "automation"],
 }
 ALLOWED["api"] = list(ALLOWED)
 
 # Where Windows may be seen at all.
-WINDOWS_PLACES = re.compile(r"(^|/)(win32|api|qmfile2)/")
+WINDOWS_PLACES = re.compile(r"(^|/)(win32|automation|api|qmfile2)/")
 WINDOWS_HEADERS = re.compile(
     r"(windows|windowsx|wtypes|win(base|def|error|gdi|nls|reg|spool|user|ver)|ole2?|ole(auto|ctl|idl)|objbase|objidl|"
     r"oaidl|ocidl|unknwn|comdef|comutil|comip|comm(ctrl|dlg)|uxtheme|shell(api|scalingapi)|shl(obj|wapi|guid)|"
@@ -54,7 +55,7 @@ def objection(path, system, name):
     at_windows = WINDOWS_PLACES.search(path)
     if system:
         if WINDOWS_HEADERS.fullmatch(name) and not at_windows:
-            return f"<{name}> belongs in */win32/, api/ and qmfile2/ only; use an interface of platform/"
+            return f"<{name}> belongs in */win32/, automation/, api/ and qmfile2/ only; use an interface of platform/"
         return None
     own, other = folder_of(path), folder_of(name)
     if other is None:

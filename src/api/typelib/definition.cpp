@@ -1,27 +1,25 @@
 #include "api/typelib/definition.h"
 
+#include <array>
+
 #include "api/typelib/guids.h"
+#include "qmfile2/typelib/definition.h"
 
 namespace qm::api {
 
 namespace {
 
-using Parameters = std::array<Parameter, kMostParameters>;
-
-consteval Member Field(std::u16string_view name, std::uint32_t dispid, Type type) {
-  return {name, static_cast<std::int32_t>(dispid), Kind::Field, type, {}};
-}
-consteval Member Let(std::u16string_view name, std::uint32_t dispid, Type type) {
-  return {name, static_cast<std::int32_t>(dispid), Kind::Let, type, {}};
-}
-consteval Member Get(std::u16string_view name, std::uint32_t dispid, Type type) {
-  return {name, static_cast<std::int32_t>(dispid), Kind::Get, type, {}};
-}
-consteval Member Method(std::u16string_view name, std::uint32_t dispid, Parameters parameters = {},
-                        Type result = Type::None) {
-  return {name, static_cast<std::int32_t>(dispid), Kind::Method, result, parameters};
-}
-consteval Parameter ByRef(std::u16string_view name, Type type) { return {name, type, true, false}; }
+using automation::ByRef;
+using automation::Class;
+using automation::Field;
+using automation::Get;
+using automation::Interface;
+using automation::Let;
+using automation::Library;
+using automation::Member;
+using automation::Method;
+using automation::OptionalByRef;
+using automation::Type;
 
 constexpr std::array kPrintFormMembers{
     Field(u"NumeroModelo", 0x40030006, Type::Variant),
@@ -58,17 +56,17 @@ constexpr std::array kPrintFormMembers{
     Method(u"CrearZip", 0x60030005, {ByRef(u"eDir", Type::Text), ByRef(u"ZipFile", Type::Text)}),
     Method(u"ImprimirModelo", 0x60030009),
     Method(u"AsignarCampo", 0x6003000E, {ByRef(u"NombreCampo", Type::Text), ByRef(u"Valor", Type::Variant)},
-           Type::Campos),
-    Method(u"AñadirCampo", 0x6003000F, {ByRef(u"NombreCampo", Type::Text)}, Type::Campos),
-    Method(u"AñadirTabla", 0x60030010, {ByRef(u"NombreTabla", Type::Text)}, Type::Tablas),
+           kCamposFace),
+    Method(u"AñadirCampo", 0x6003000F, {ByRef(u"NombreCampo", Type::Text)}, kCamposFace),
+    Method(u"AñadirTabla", 0x60030010, {ByRef(u"NombreTabla", Type::Text)}, kTablasFace),
     Method(u"AsignarDatosTabla", 0x60030011,
            {ByRef(u"Tabla", Type::Text), ByRef(u"NumArchivo", Type::Integer),
             ByRef(u"CArray", Type::TextArray), ByRef(u"DArray", Type::IntegerArray)}),
-    Method(u"AsignarDatosTablaQmF", 0x60030012, {ByRef(u"QmF", Type::RecordFile)}),
+    Method(u"AsignarDatosTablaQmF", 0x60030012, {ByRef(u"QmF", qmfile2::kRecordFileFace)}),
     Method(u"Show", 0x60030015),
     Let(u"XMLFileName", 0x68030000, Type::Text),
     Get(u"XMLFileName", 0x68030000, Type::Text),
-    Method(u"AsignarDatosTablaQmF2", 0x60030017, {ByRef(u"QmF", Type::RecordFile)}),
+    Method(u"AsignarDatosTablaQmF2", 0x60030017, {ByRef(u"QmF", qmfile2::kRecordFileFace)}),
 };
 
 constexpr std::array kPrintFormEventsMembers{
@@ -102,23 +100,12 @@ constexpr std::array kEmailMembers{
     Field(u"ArchivosAdjuntos", 0x40030007, Type::Text),
     Field(u"Recibo", 0x40030008, Type::Boolean),
     Method(u"LeerPerfiles", 0x60030000,
-           {ByRef(u"PorDefecto", Type::Integer), Parameter{u"PerfilPorDefecto", Type::Text, true, true}},
+           {ByRef(u"PorDefecto", Type::Integer), OptionalByRef(u"PerfilPorDefecto", Type::Text)},
            Type::Dispatch),
     Method(u"PerfilPorDefecto", 0x60030001, {}, Type::Text),
     Get(u"Perfil", 0x68030000, Type::Text),
     Let(u"Perfil", 0x68030000, Type::Text),
     Method(u"Enviar", 0x60030002, {}, Type::Text),
-};
-
-constexpr std::array kRecordFileMembers{
-    Method(u"TipoCampo", 0x60030000, {ByRef(u"Campo", Type::Integer)}, Type::Integer),
-    Method(u"FinArchivo", 0x60030001, {}, Type::Boolean),
-    Method(u"Siguiente", 0x60030002),
-    Method(u"NumeroRegistros", 0x60030003, {}, Type::Long),
-    Method(u"NumeroCampos", 0x60030004, {}, Type::Integer),
-    Method(u"ValorCampo", 0x60030005, {ByRef(u"Campo", Type::Variant)}, Type::Variant),
-    Method(u"NombreDelCampo", 0x60030006, {ByRef(u"Campo", Type::Integer)}, Type::Text),
-    Method(u"NombreDeTabla", 0x60030007, {}, Type::Text),
 };
 
 constexpr int SlotCount(std::span<const Member> members) {
@@ -130,13 +117,14 @@ static_assert(SlotCount(kPrintFormMembers) == 65);
 
 }  // namespace
 
-constinit const Interface kPrintFormFace{u"_PrintForm", kPrintFormInterface, kPrintFormMembers};
-constinit const Interface kPrintFormEventsFace{u"__PrintForm", kPrintFormEvents, kPrintFormEventsMembers};
-constinit const Interface kTablasFace{u"_Tablas", kTablasInterface, kTablasMembers};
-constinit const Interface kCamposFace{u"_Campos", kCamposInterface, kCamposMembers};
-constinit const Interface kDatosTablaFace{u"_DatosTabla", kDatosTablaInterface, kDatosTablaMembers};
-constinit const Interface kEmailFace{u"_Email", kEmailInterface, kEmailMembers};
-constinit const Interface kRecordFileFace{u"_QmFileControl2", kRecordFileInterface, kRecordFileMembers};
+constinit const Interface kPrintFormFace{u"_PrintForm", kPrintFormInterface, kPrintFormMembers, &kComponent};
+constinit const Interface kPrintFormEventsFace{u"__PrintForm", kPrintFormEvents, kPrintFormEventsMembers,
+                                               &kComponent};
+constinit const Interface kTablasFace{u"_Tablas", kTablasInterface, kTablasMembers, &kComponent};
+constinit const Interface kCamposFace{u"_Campos", kCamposInterface, kCamposMembers, &kComponent};
+constinit const Interface kDatosTablaFace{u"_DatosTabla", kDatosTablaInterface, kDatosTablaMembers,
+                                          &kComponent};
+constinit const Interface kEmailFace{u"_Email", kEmailInterface, kEmailMembers, &kComponent};
 
 namespace {
 constexpr std::array kClasses{
@@ -146,16 +134,8 @@ constexpr std::array kClasses{
     Class{u"DatosTabla", kDatosTablaClass, &kDatosTablaFace, nullptr},
     Class{u"Email", kEmailClass, &kEmailFace, nullptr},
 };
-constexpr Class kRecordFile{u"QmFileControl2", kRecordFileClass, &kRecordFileFace, nullptr};
 }  // namespace
 
-std::span<const Class> Classes() { return kClasses; }
-const Class& ClassOf(const Interface& defaultFace) {
-  for (const Class& each : kClasses) {
-    if (each.face == &defaultFace) return each;
-  }
-  return kRecordFile;
-}
-const Class& RecordFileClass() { return kRecordFile; }
+constinit const Library kComponent{u"Qm_Modelo_Impresion3", kLibraryId, kClasses};
 
 }  // namespace qm::api

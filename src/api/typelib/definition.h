@@ -1,131 +1,18 @@
 #pragma once
-// The public interface of the component as one table. The type libraries, the C++ header for hosts, the
-// side-by-side manifests and the late-bound calls are all made from it.
-// The order of members is the order of the vtable, after the seven slots of IUnknown and IDispatch.
+// The public interface of the component as one table.
 // Hosts are compiled against all of it: members are never renamed, renumbered or moved.
 
-#include <guiddef.h>
-
-#include <array>
-#include <cstdint>
-#include <span>
-#include <string_view>
+#include "automation/typelib/description.h"
 
 namespace qm::api {
 
-inline constexpr std::u16string_view kLibraryName = u"Qm_Modelo_Impresion3";
-inline constexpr std::u16string_view kRecordFileLibraryName = u"QmFile2";
-inline constexpr std::uint16_t kMajorVersion = 1;
-inline constexpr std::uint16_t kMinorVersion = 0;
-inline constexpr std::uint32_t kLibraryLcid = 0x0409;
-inline constexpr int kFirstSlot = 7;
+extern const automation::Interface kPrintFormFace;
+extern const automation::Interface kPrintFormEventsFace;  // dispatch only
+extern const automation::Interface kTablasFace;
+extern const automation::Interface kCamposFace;
+extern const automation::Interface kDatosTablaFace;
+extern const automation::Interface kEmailFace;
 
-enum class Type : std::uint8_t {
-  None,
-  Text,          // BSTR
-  Integer,       // 16 bits
-  Long,          // 32 bits
-  Boolean,       // VARIANT_BOOL
-  Variant,       // VARIANT
-  Dispatch,      // IDispatch*
-  Campos,        // the default interface of that class
-  Tablas,        // likewise
-  RecordFile,    // the record-file library's interface
-  TextArray,     // SAFEARRAY of BSTR
-  IntegerArray,  // SAFEARRAY of 16-bit integers
-};
-
-enum class Kind : std::uint8_t {
-  Field,   // get and let, and set for a Variant: two or three slots
-  Method,  // one slot, as have the next two
-  Let,
-  Get,
-};
-
-enum class Access : std::uint8_t { Call, Get, Let, Set };
-
-struct Parameter {
-  std::u16string_view name;
-  Type type = Type::None;
-  bool byReference = true;
-  bool optional = false;  // the default is an empty text
-};
-
-inline constexpr std::size_t kMostParameters = 4;
-
-struct Member {
-  std::u16string_view name;
-  std::int32_t dispid = 0;
-  Kind kind = Kind::Method;
-  Type type = Type::None;  // of the field or property, or what the method returns
-  std::array<Parameter, kMostParameters> parameters{};
-
-  [[nodiscard]] constexpr int SlotCount() const {
-    if (kind != Kind::Field) return 1;
-    return type == Type::Variant ? 3 : 2;
-  }
-  [[nodiscard]] constexpr std::size_t ParameterCount() const {
-    std::size_t count = 0;
-    while (count < parameters.size() && parameters[count].type != Type::None) ++count;
-    return count;
-  }
-};
-
-struct Interface {
-  std::u16string_view name;
-  GUID id{};
-  std::span<const Member> members;
-};
-
-struct Class {
-  std::u16string_view name;  // without the library's name in front
-  GUID id{};
-  const Interface* face = nullptr;
-  const Interface* events = nullptr;
-};
-
-// One function of the vtable.
-struct Function {
-  const Member* member = nullptr;
-  Access access = Access::Call;
-  int slot = 0;
-};
-
-extern const Interface kPrintFormFace;
-extern const Interface kPrintFormEventsFace;  // dispatch only
-extern const Interface kTablasFace;
-extern const Interface kCamposFace;
-extern const Interface kDatosTablaFace;
-extern const Interface kEmailFace;
-extern const Interface kRecordFileFace;  // of the record-file library
-
-[[nodiscard]] std::span<const Class> Classes();
-[[nodiscard]] const Class& ClassOf(const Interface& defaultFace);
-[[nodiscard]] const Class& RecordFileClass();
-
-// Calls visit(Function) for every function of the vtable, in order.
-template <class Visitor>
-void ForEachFunction(const Interface& face, Visitor&& visit) {
-  int slot = kFirstSlot;
-  for (const Member& member : face.members) {
-    switch (member.kind) {
-      case Kind::Method:
-        visit(Function{&member, Access::Call, slot});
-        break;
-      case Kind::Let:
-        visit(Function{&member, Access::Let, slot});
-        break;
-      case Kind::Get:
-        visit(Function{&member, Access::Get, slot});
-        break;
-      case Kind::Field:
-        visit(Function{&member, Access::Get, slot});
-        visit(Function{&member, Access::Let, slot + 1});
-        if (member.SlotCount() == 3) visit(Function{&member, Access::Set, slot + 2});
-        break;
-    }
-    slot += member.SlotCount();
-  }
-}
+extern const automation::Library kComponent;
 
 }  // namespace qm::api

@@ -7,8 +7,8 @@
 #include <cstdio>
 #include <string>
 
-#include "api/typelib/text_writer.h"
-#include "api/typelib/typelib_writer.h"
+#include "api/typelib/generated.h"
+#include "automation/typelib/typelib_writer.h"
 
 namespace {
 
@@ -33,13 +33,13 @@ int wmain(int count, wchar_t** arguments) {
   if (FAILED(CoInitializeEx(nullptr, COINIT_APARTMENTTHREADED))) return 1;
   try {
     qm::api::WriteTypeLibraries();
-  } catch (const qm::api::WriteError& error) {
+  } catch (const qm::automation::WriteError& error) {
     std::fprintf(stderr, "type library: %08lX\n", static_cast<unsigned long>(error.result));
     return 1;
   }
-  const bool written = Write("QmModImp3.h", qm::api::HostHeader()) &&
-                       Write("QmModImp3.x64.manifest", qm::api::Manifest(true)) &&
-                       Write("QmModImp3.x86.manifest", qm::api::Manifest(false));
+  const bool written = Write("QmModImp3.h", qm::api::ComponentHeader()) &&
+                       Write("QmModImp3.x64.manifest", qm::api::ComponentManifest(true)) &&
+                       Write("QmModImp3.x86.manifest", qm::api::ComponentManifest(false));
   CoUninitialize();
   return written ? 0 : 1;
 }
