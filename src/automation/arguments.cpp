@@ -171,11 +171,11 @@ void Arguments::TakeReference(const VARIANT& source, const Parameter& parameter,
     case Type::IntegerArray:
       argument.passed.byref = ArrayOf(source);
       break;
-    case Type::Object: {
+    case Type::Object: {  // any automation object will do: its members are called by their names
       argument.converted->vt = VT_UNKNOWN;
       argument.converted->punkVal = nullptr;
       IUnknown* object = ObjectOf(source);
-      if (object && FAILED(object->QueryInterface(parameter.object->id,
+      if (object && FAILED(object->QueryInterface(IID_IDispatch,
                                                   reinterpret_cast<void**>(&argument.converted->punkVal)))) {
         argument.converted->punkVal = nullptr;
         throw RuntimeError(ErrorNumber::TypeMismatch);
