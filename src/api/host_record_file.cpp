@@ -1,5 +1,6 @@
 #include "api/host_record_file.h"
 
+#include <dispex.h>
 #include <oleauto.h>
 
 #include "automation/object_call.h"
@@ -38,6 +39,8 @@ std::int16_t AsInteger(const OwnedVariant& answer) {
 HostRecordFile::HostRecordFile(IUnknown* object) {
   if (!object) throw RuntimeError(ErrorNumber::ObjectNotSet);
   if (FAILED(object->QueryInterface(IID_PPV_ARGS(&object_)))) throw RuntimeError(ErrorNumber::TypeMismatch);
+  Microsoft::WRL::ComPtr<IDispatchEx> script;
+  ofScript_ = SUCCEEDED(object_.As(&script));
 }
 
 std::int16_t HostRecordFile::TipoCampo(std::int16_t campo) {
@@ -86,7 +89,7 @@ std::u16string HostRecordFile::NombreDeTabla() {
   return automation::TextOf(answer.Get());
 }
 
-// An operation with an answer may be a property of the object, or a plain member of a script's.
+// An operation with an answer may be a property of the object.
 void HostRecordFile::Invoke(std::size_t member, VARIANT* argument, VARIANT* result) {
   std::optional<DISPID>& id = ids_[member];
   if (!id) id = automation::IdOfMember(*object_.Get(), kNames[member]);
@@ -96,12 +99,14 @@ void HostRecordFile::Invoke(std::size_t member, VARIANT* argument, VARIANT* resu
 
 void HostRecordFile::Ask(std::size_t member, OwnedVariant& answer) { Invoke(member, nullptr, &answer.Get()); }
 
-// The interface takes the number by reference. The object gets one of its own to change.
+// The object gets a number of its own, which it may change.
 void HostRecordFile::AskOfField(std::size_t member, std::int16_t field, OwnedVariant& answer) {
-  SHORT number = field;
+  OwnedVariant number;
+  number->vt = VT_I2;
+  number->iVal = field;
   VARIANT reference{};
-  reference.vt = VT_BYREF | VT_I2;
-  reference.piVal = &number;
+  reference.vt = VT_BYREF | (ofScript_ ? VT_VARIANT : VT_I2);
+  reference.byref = ofScript_ ? static_cast<void*>(&number.Get()) : &number->iVal;
   Invoke(member, &reference, &answer.Get());
 }
 

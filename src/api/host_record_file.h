@@ -2,7 +2,9 @@
 // The record file that a host passes, called late-bound by the names of its members. Any automation object
 // with the eight operations serves, one of a script too. The vtable is not used: only the order of these
 // eight members is known of it, not what else stands between them in the library that the host has.
-// Errors: 91 for Nothing, 438 for a member that the object lacks, what the object raises as it is.
+// The number of a field goes by reference: to an integer, as the interface has it and compiled hosts pass it;
+// to a variant where the object is a script engine's, as these pass their variables. Errors: 91 for Nothing,
+// 438 for a member that the object lacks, what the object raises as it is.
 
 #include <windows.h>
 
@@ -39,6 +41,7 @@ class HostRecordFile final : public platform::RecordFile {
   void AskOfField(std::size_t member, std::int16_t field, automation::OwnedVariant& answer);
 
   Microsoft::WRL::ComPtr<IDispatch> object_;
+  bool ofScript_ = false;
   std::array<std::optional<DISPID>, kMembers> ids_;  // asked for at each member's first call
 };
 

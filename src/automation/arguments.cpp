@@ -62,6 +62,7 @@ IUnknown* ObjectOf(const VARIANT& source) {
   const VARIANT& value = Inner(source);
   switch (value.vt) {
     case VT_EMPTY:
+    case VT_NULL:  // JScript's null
       return nullptr;
     case VT_DISPATCH:
     case VT_UNKNOWN:

@@ -1,6 +1,8 @@
 #include "automation/object_call.h"
 
+#include <dispex.h>
 #include <oleauto.h>
+#include <wrl/client.h>
 
 #include <string>
 
@@ -10,6 +12,8 @@
 namespace qm::automation {
 
 namespace {
+
+using Microsoft::WRL::ComPtr;
 
 [[noreturn]] void ThrowException(EXCEPINFO& exception) {
   if (exception.pfnDeferredFillIn) exception.pfnDeferredFillIn(&exception);
@@ -32,10 +36,20 @@ void InvokeObject(IDispatch& object, DISPID id, WORD flags, VARIANT* argument, V
   ThrowIfFailed(called);
 }
 
+// Script engines' objects know more of their members through their own interface; some engines offer no other
+// way, and JScript's tells cases apart in the ordinary one.
 DISPID IdOfMember(IDispatch& object, const wchar_t* name) {
-  auto* asked = const_cast<LPOLESTR>(name);
   DISPID id = DISPID_UNKNOWN;
-  const HRESULT found = object.GetIDsOfNames(IID_NULL, &asked, 1, GetUserDefaultLCID(), &id);
+  HRESULT found = S_OK;
+  ComPtr<IDispatchEx> script;
+  if (SUCCEEDED(object.QueryInterface(IID_PPV_ARGS(&script)))) {
+    BSTR asked = NewBstr(std::u16string_view(reinterpret_cast<const char16_t*>(name)));
+    found = script->GetDispID(asked, fdexNameCaseInsensitive, &id);
+    SysFreeString(asked);
+  } else {
+    auto* asked = const_cast<LPOLESTR>(name);
+    found = object.GetIDsOfNames(IID_NULL, &asked, 1, GetUserDefaultLCID(), &id);
+  }
   ThrowIfFailed(found == DISP_E_UNKNOWNNAME ? DISP_E_MEMBERNOTFOUND : found);
   return id;
 }

@@ -11,7 +11,7 @@ namespace qm::automation {
 // With one argument or none, with a result or none.
 void InvokeObject(IDispatch& object, DISPID id, WORD flags, VARIANT* argument, VARIANT* result);
 
-// Error 438 where there is no member of that name.
+// In any case of its letters; error 438 where there is no member of that name.
 [[nodiscard]] DISPID IdOfMember(IDispatch& object, const wchar_t* name);
 
 }  // namespace qm::automation

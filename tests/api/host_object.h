@@ -4,6 +4,7 @@
 
 #include <windows.h>
 
+#include <dispex.h>
 #include <oaidl.h>
 #include <oleauto.h>
 
@@ -15,7 +16,7 @@
 namespace qm::tests {
 
 // Lives on the stack of the test.
-class HostObject : public IDispatch {
+class HostObject : public IDispatchEx {
  public:
   struct Call {
     const DISPPARAMS& passed;
@@ -37,6 +38,9 @@ class HostObject : public IDispatch {
     }
     members_.emplace_back(std::move(name), std::move(member));
   }
+  // Passes for an object of a script engine, which has its members looked up through an interface of its own.
+  bool ofScript = false;
+
   // A member that gives the same value at each call.
   void SetValue(std::wstring name, const VARIANT& value) {
     Set(std::move(name),
@@ -48,7 +52,8 @@ class HostObject : public IDispatch {
   [[nodiscard]] int NamesAsked() const { return namesAsked_; }
 
   HRESULT STDMETHODCALLTYPE QueryInterface(REFIID id, void** object) override {
-    const bool known = IsEqualGUID(id, IID_IUnknown) || IsEqualGUID(id, IID_IDispatch);
+    const bool known = IsEqualGUID(id, IID_IUnknown) || IsEqualGUID(id, IID_IDispatch) ||
+                       (ofScript && IsEqualGUID(id, __uuidof(IDispatchEx)));
     *object = known ? this : nullptr;
     if (known) AddRef();
     return known ? S_OK : E_NOINTERFACE;
@@ -68,6 +73,19 @@ class HostObject : public IDispatch {
     ids[0] = DISPID_UNKNOWN;
     return DISP_E_UNKNOWNNAME;
   }
+  HRESULT STDMETHODCALLTYPE GetDispID(BSTR name, DWORD, DISPID* id) override {
+    return GetIDsOfNames(IID_NULL, &name, 1, 0, id);
+  }
+  HRESULT STDMETHODCALLTYPE InvokeEx(DISPID, LCID, WORD, DISPPARAMS*, VARIANT*, EXCEPINFO*,
+                                     IServiceProvider*) override {
+    return E_NOTIMPL;
+  }
+  HRESULT STDMETHODCALLTYPE DeleteMemberByName(BSTR, DWORD) override { return E_NOTIMPL; }
+  HRESULT STDMETHODCALLTYPE DeleteMemberByDispID(DISPID) override { return E_NOTIMPL; }
+  HRESULT STDMETHODCALLTYPE GetMemberProperties(DISPID, DWORD, DWORD*) override { return E_NOTIMPL; }
+  HRESULT STDMETHODCALLTYPE GetMemberName(DISPID, BSTR*) override { return E_NOTIMPL; }
+  HRESULT STDMETHODCALLTYPE GetNextDispID(DWORD, DISPID, DISPID*) override { return E_NOTIMPL; }
+  HRESULT STDMETHODCALLTYPE GetNameSpaceParent(IUnknown**) override { return E_NOTIMPL; }
   HRESULT STDMETHODCALLTYPE Invoke(DISPID id, REFIID, LCID, WORD flags, DISPPARAMS* passed, VARIANT* result,
                                    EXCEPINFO* exception, UINT*) override {
     const auto& [name, member] = members_[static_cast<std::size_t>(id) - 1];

@@ -61,6 +61,23 @@ TEST(HostRecordFile, TakesTheNumberOfAFieldByReferenceAndLeavesOnesOwnAlone) {
   EXPECT_EQ(object.Log(), "TipoCampo 3\nValorCampo 4\nNombreDelCampo 5\n");
 }
 
+TEST(HostRecordFile, AScriptsObjectTakesTheNumberInAVariantThatItMayChange) {
+  HostObject object;
+  object.ofScript = true;
+  object.Set(L"ValorCampo", [](const HostObject::Call& call) {
+    EXPECT_EQ(call.passed.rgvarg[0].vt, VT_BYREF | VT_VARIANT);
+    VARIANT& variable = *call.passed.rgvarg[0].pvarVal;
+    EXPECT_EQ(variable.vt, VT_I2);
+    EXPECT_EQ(variable.iVal, 7);
+    variable.vt = VT_BSTR;
+    variable.bstrVal = SysAllocString(L"otra cosa");
+    return S_OK;
+  });
+  HostRecordFile records(&object);
+  EXPECT_EQ(records.ValorCampo(7), u"");
+  EXPECT_EQ(object.References(), 2);
+}
+
 TEST(HostRecordFile, AnswersMayComeInAnyTypeThatConverts) {
   HostObject object;
   HostRecordFile records(&object);
