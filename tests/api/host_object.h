@@ -48,6 +48,7 @@ class HostObject : public IDispatchEx {
   }
 
   [[nodiscard]] const std::string& Log() const { return log_; }
+  void ClearLog() { log_.clear(); }
   [[nodiscard]] LONG References() const { return references_; }
   [[nodiscard]] int NamesAsked() const { return namesAsked_; }
 

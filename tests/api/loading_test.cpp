@@ -1,39 +1,17 @@
 // Bulk loading through the component. What was loaded shows in print only, which the hosts of tests/wine do;
 // here stand the order of calls, the files and the errors.
 
+#include <windows.h>
+
 #include <gtest/gtest.h>
+#include <psapi.h>
 
 #include "tests/api/component.h"
-#include "tests/api/host_object.h"
+#include "tests/api/record_object.h"
 #include "tests/api/safe_array.h"
 
 namespace qm::tests {
 namespace {
-
-// Two records of two fields; the position is past the end after two moves.
-class RecordObject : public HostObject {
- public:
-  int position = 0;
-  int count = 2;
-
-  RecordObject() {
-    Set(L"TipoCampo", [](const Call& call) { return Give(call, Value::Short(0)); });
-    Set(L"FinArchivo", [this](const Call& call) { return Give(call, Value::Boolean(position >= 2)); });
-    Set(L"Siguiente", [this](const Call&) {
-      ++position;
-      return S_OK;
-    });
-    Set(L"NumeroRegistros", [this](const Call& call) { return Give(call, Value(static_cast<LONG>(count))); });
-    Set(L"NumeroCampos", [](const Call& call) { return Give(call, Value::Short(2)); });
-    Set(L"ValorCampo", [](const Call& call) { return Give(call, Value(L"valor")); });
-    Set(L"NombreDelCampo", [](const Call& call) { return Give(call, Value(L"CAMPO")); });
-    Set(L"NombreDeTabla", [](const Call& call) { return Give(call, Value(L"CLIEN")); });
-  }
-
-  static HRESULT Give(const Call& call, const Value& value) {
-    return VariantCopy(call.result, const_cast<Value*>(&value));
-  }
-};
 
 constexpr const char* kRecordCalls =
     "TipoCampo 1\nNombreDeTabla\nNombreDelCampo 1\nNombreDeTabla\nValorCampo 1\nTipoCampo 1\n"
@@ -144,6 +122,37 @@ TEST_F(Loading, TheHostMayLoadAgainWhileItsObjectIsAsked) {
     return RecordObject::Give(call, Value(L"valor"));
   });
   EXPECT_EQ(LoadAll(&records), S_OK);
+}
+
+SIZE_T PrivateBytes() {
+  PROCESS_MEMORY_COUNTERS_EX counters{};
+  GetProcessMemoryInfo(GetCurrentProcess(), reinterpret_cast<PROCESS_MEMORY_COUNTERS*>(&counters),
+                       sizeof counters);
+  return counters.PrivateUsage;
+}
+
+TEST_F(Loading, ManyTimesOverLeavesNoGrowth) {
+  RecordObject records;
+  const auto round = [&](int count) {
+    for (int i = 0; i < count; ++i) {
+      const auto form = component_.NewPrintForm();
+      auto* object = reinterpret_cast<_QmFileControl2*>(static_cast<IDispatch*>(&records));
+      records.position = 0;
+      EXPECT_EQ(form->AsignarDatosTablaQmF(&object), S_OK);
+      EXPECT_EQ(form->AsignarDatosTablaQmF2(&object), S_OK);
+      records.count = 0;  // an error now and then
+      records.position = 0;
+      EXPECT_EQ(form->AsignarDatosTablaQmF2(&object), RuntimeResult(9));
+      records.count = 2;
+      records.ClearLog();
+    }
+    SetErrorInfo(0, nullptr);
+  };
+  round(300);
+  const SIZE_T before = PrivateBytes();
+  round(3000);
+  EXPECT_LE(PrivateBytes(), before + 256 * 1024);
+  EXPECT_EQ(records.References(), 1);
 }
 
 TEST_F(Loading, FromArraysMakesAMissingDefinitionAndLooksAtNothing) {

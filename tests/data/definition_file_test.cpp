@@ -13,9 +13,8 @@ using ::testing::ElementsAre;
 using ::testing::IsEmpty;
 using ::testing::SizeIs;
 using tests::DefinitionBytes;
-using tests::Padded;
 
-// The names that are read, or the number of the error.
+// The number of the error, or 0.
 int ErrorOf(std::string_view bytes) {
   try {
     (void)ParseDefinition(bytes);
