@@ -23,6 +23,9 @@ class Composition {
   // Shared by all print jobs of the process.
   [[nodiscard]] model::ModelFile& ModelFile() noexcept { return modelFile_; }
 
+  [[nodiscard]] platform::Files& Files() noexcept { return files_; }
+  [[nodiscard]] platform::Clock& Clock() noexcept { return clock_; }
+
   // False when the user ended the printing early. Sheets of labels are not part of this version: error 445.
   [[nodiscard]] bool Imprimir(data::PrintJob& job);
 

@@ -1,7 +1,10 @@
 #include "api/print_form.h"
 
+#include "api/host_arrays.h"
+#include "api/host_record_file.h"
 #include "api/model_number.h"
 #include "api/records.h"
+#include "data/bulk_loading.h"
 #include "data/fields.h"
 
 namespace qm::api {
@@ -74,6 +77,30 @@ HRESULT PrintForm::AñadirTabla(BSTR* nombreTabla, _Tablas** result) noexcept {
   });
 }
 
+HRESULT PrintForm::AsignarDatosTabla(BSTR* tabla, SHORT* numArchivo, SAFEARRAY** cArray,
+                                     SAFEARRAY** dArray) noexcept {
+  return Call([&] {
+    const std::u16string table(TextOf(Required(tabla)));
+    const SHORT file = Required(numArchivo);
+    HostArrays arrays(Required(cArray), Required(dArray));
+    data::AsignarDatosTabla(job_, table, file, arrays, composition_.Files());
+  });
+}
+
+HRESULT PrintForm::AsignarDatosTablaQmF(_QmFileControl2** qmF) noexcept {
+  return Call([&] {
+    HostRecordFile records(Required(qmF));
+    data::AsignarDatosTablaQmF(job_, records, composition_.Clock());
+  });
+}
+
+HRESULT PrintForm::AsignarDatosTablaQmF2(_QmFileControl2** qmF) noexcept {
+  return Call([&] {
+    HostRecordFile records(Required(qmF));
+    data::AsignarDatosTablaQmF2(job_, records, composition_.Clock());
+  });
+}
+
 HRESULT PrintForm::ImprimirModelo() noexcept {
   return Call([&] {
     job_.numeroModelo = ModelNumberOf(numeroModelo_.Get());
@@ -89,15 +116,10 @@ HRESULT PrintForm::get_XMLFileName(BSTR* result) noexcept {
   return Call([&] { Export(composition_.ModelFile().name, Required(result)); });
 }
 
-// Bulk loading, the designer and e-mail are not part of this version.
+// The designer and e-mail are not part of this version.
 HRESULT PrintForm::EmailModelo(BSTR*, BSTR*, BSTR*) noexcept { return Call(ThrowNotSupported); }
 HRESULT PrintForm::EnviarEmail() noexcept { return Call(ThrowNotSupported); }
 HRESULT PrintForm::CrearZip(BSTR*, BSTR*) noexcept { return Call(ThrowNotSupported); }
-HRESULT PrintForm::AsignarDatosTabla(BSTR*, SHORT*, SAFEARRAY**, SAFEARRAY**) noexcept {
-  return Call(ThrowNotSupported);
-}
-HRESULT PrintForm::AsignarDatosTablaQmF(_QmFileControl2**) noexcept { return Call(ThrowNotSupported); }
 HRESULT PrintForm::Show() noexcept { return Call(ThrowNotSupported); }
-HRESULT PrintForm::AsignarDatosTablaQmF2(_QmFileControl2**) noexcept { return Call(ThrowNotSupported); }
 
 }  // namespace qm::api

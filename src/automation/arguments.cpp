@@ -62,6 +62,7 @@ IUnknown* ObjectOf(const VARIANT& source) {
   const VARIANT& value = Inner(source);
   switch (value.vt) {
     case VT_EMPTY:
+    case VT_NULL:  // JScript's null
       return nullptr;
     case VT_DISPATCH:
     case VT_UNKNOWN:
@@ -171,11 +172,11 @@ void Arguments::TakeReference(const VARIANT& source, const Parameter& parameter,
     case Type::IntegerArray:
       argument.passed.byref = ArrayOf(source);
       break;
-    case Type::Object: {
+    case Type::Object: {  // any automation object will do: its members are called by their names
       argument.converted->vt = VT_UNKNOWN;
       argument.converted->punkVal = nullptr;
       IUnknown* object = ObjectOf(source);
-      if (object && FAILED(object->QueryInterface(parameter.object->id,
+      if (object && FAILED(object->QueryInterface(IID_IDispatch,
                                                   reinterpret_cast<void**>(&argument.converted->punkVal)))) {
         argument.converted->punkVal = nullptr;
         throw RuntimeError(ErrorNumber::TypeMismatch);

@@ -79,14 +79,17 @@ void ThrowIfFailed(HRESULT result) {
     default:
       break;
   }
-  std::u16string description = TakeDescription();
-  if (HRESULT_FACILITY(result) == FACILITY_CONTROL) {
-    const int number = HRESULT_CODE(result);
+  ThrowFailure(result, TakeDescription());
+}
+
+void ThrowFailure(HRESULT result, std::u16string description) {
+  int number = FAILED(result) ? static_cast<int>(result) : kAutomationError;
+  if (FAILED(result) && HRESULT_FACILITY(result) == FACILITY_CONTROL) {
+    number = HRESULT_CODE(result);
     if (description.empty()) description = runtime::DescriptionOf(number);
-    throw RuntimeError(number, std::move(description));
   }
-  throw RuntimeError(kAutomationError,
-                     description.empty() ? u"Error de automatización" : std::move(description));
+  if (description.empty()) description = u"Error de automatización";
+  throw RuntimeError(number, std::move(description));
 }
 
 void ThrowNotSupported() { throw RuntimeError(kNotSupported, u"El objeto no admite esta acción"); }

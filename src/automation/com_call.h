@@ -7,7 +7,7 @@
 
 #include <oaidl.h>
 
-#include <string_view>
+#include <string>
 #include <utility>
 
 #include "automation/typelib/description.h"
@@ -19,7 +19,9 @@ inline constexpr int kNotSupported = 445;
 inline constexpr int kNoSuchMember = 438;
 inline constexpr int kAutomationError = 440;
 
+// Numbers below 0 are results that an object of the host raised and that go on as they are.
 [[nodiscard]] constexpr HRESULT ResultOf(int errorNumber) noexcept {
+  if (errorNumber < 0) return static_cast<HRESULT>(errorNumber);
   return static_cast<HRESULT>(0x800A0000u | (static_cast<unsigned>(errorNumber) & 0xFFFFu));
 }
 
@@ -28,6 +30,10 @@ inline constexpr int kAutomationError = 440;
 
 // Throws what stands for a failing HRESULT of the automation library or of an object of the host.
 void ThrowIfFailed(HRESULT result);
+
+// The same for what an object raised with that text. A runtime's error keeps its number, any other failure
+// its result.
+[[noreturn]] void ThrowFailure(HRESULT result, std::u16string description);
 
 [[noreturn]] void ThrowNotSupported();
 

@@ -4,6 +4,7 @@
 #include <wrl/client.h>
 
 #include "automation/com_call.h"
+#include "automation/object_call.h"
 #include "automation/text.h"
 
 namespace qm::automation {
@@ -16,30 +17,11 @@ using runtime::RuntimeError;
 
 constexpr int kDeepestDefault = 16;  // a default property may be an object again
 
-[[noreturn]] void ThrowException(EXCEPINFO& exception) {
-  if (exception.pfnDeferredFillIn) exception.pfnDeferredFillIn(&exception);
-  const HRESULT result = exception.scode ? exception.scode : ResultOf(exception.wCode);
-  std::u16string description(TextOf(exception.bstrDescription));
-  SysFreeString(exception.bstrDescription);
-  SysFreeString(exception.bstrSource);
-  SysFreeString(exception.bstrHelpFile);
-  const bool numbered = HRESULT_FACILITY(result) == FACILITY_CONTROL;
-  const int number = numbered ? HRESULT_CODE(result) : kAutomationError;
-  if (description.empty()) description = runtime::DescriptionOf(number);
-  throw RuntimeError(number, std::move(description));
-}
-
 void GetDefaultProperty(IUnknown* object, OwnedVariant& value) {
   if (!object) throw RuntimeError(ErrorNumber::ObjectNotSet);
   ComPtr<IDispatch> dispatch;
   if (FAILED(object->QueryInterface(IID_PPV_ARGS(&dispatch)))) throw RuntimeError(ErrorNumber::TypeMismatch);
-  DISPPARAMS none{};
-  EXCEPINFO exception{};
-  const HRESULT result =
-      dispatch->Invoke(DISPID_VALUE, IID_NULL, GetUserDefaultLCID(), DISPATCH_METHOD | DISPATCH_PROPERTYGET,
-                       &none, &value.Get(), &exception, nullptr);
-  if (result == DISP_E_EXCEPTION) ThrowException(exception);
-  ThrowIfFailed(result);
+  InvokeObject(*dispatch.Get(), DISPID_VALUE, DISPATCH_METHOD | DISPATCH_PROPERTYGET, nullptr, &value.Get());
 }
 
 }  // namespace

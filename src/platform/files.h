@@ -4,6 +4,7 @@
 //         file access, 76 path not found.
 // Implemented by win32/files and the tests' MemoryFiles.
 
+#include <cstddef>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -17,6 +18,9 @@ class Files {
   [[nodiscard]] virtual bool Exists(std::u16string_view path) = 0;  // a file, not a folder
   // Nothing when there is no such file.
   [[nodiscard]] virtual std::optional<std::string> Read(std::u16string_view path) = 0;
+  // At most that many bytes from the file's start, read while others may have it open for writing. A file
+  // that does not exist is made, empty, and stays.
+  [[nodiscard]] virtual std::string ReadOrCreate(std::u16string_view path, std::size_t most) = 0;
   // Writes beside the file, flushes and swaps: at any moment the file is the old or the new one, whole.
   virtual void Replace(std::u16string_view path, std::string_view bytes) = 0;
   // The user's folder for scratch files, with its final backslash.

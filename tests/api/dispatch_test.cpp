@@ -165,7 +165,7 @@ TEST_F(LateBound, WrongTypesAreErrors) {
   EXPECT_EQ(null.result, DISP_E_EXCEPTION);
   EXPECT_EQ(null.error, RuntimeResult(94));
   EXPECT_EQ(Call(form_.Get(), L"AsignarDatosTablaQmF", {Value(L"no object")}).error, RuntimeResult(13));
-  EXPECT_EQ(Call(form_.Get(), L"AsignarDatosTablaQmF", {Value(form_.Get())}).error, RuntimeResult(13));
+  EXPECT_EQ(Call(form_.Get(), L"AsignarDatosTablaQmF", {Value(form_.Get())}).error, RuntimeResult(438));
   EXPECT_EQ(Call(form_.Get(), L"AsignarDatosTabla", {Value(L"T"), Value(1L), Value(L"x"), Value(L"y")}).error,
             RuntimeResult(13));
 }
@@ -178,7 +178,7 @@ TEST_F(LateBound, ErrorsReachTheHostWithNumberTextAndSource) {
   EXPECT_EQ(failed.description, L"Debe asignar un nombre de archivo a XMLFileName");
   EXPECT_EQ(failed.source, L"Qm_Modelo_Impresion3");
   EXPECT_EQ(Call(form_.Get(), L"AsignarDatosTablaQmF", {Value(static_cast<IDispatch*>(nullptr))}).error,
-            RuntimeResult(445));
+            RuntimeResult(91));
 }
 
 TEST_F(LateBound, TheOptionalProfileMayBeMissing) {

@@ -6,6 +6,7 @@
 #include <olectl.h>
 
 #include "tests/api/component.h"
+#include "tests/api/record_object.h"
 #include "tests/api/scripted_dispatch.h"
 
 namespace qm::tests {
@@ -91,6 +92,9 @@ TEST_F(Events, ProgressIsNeverRaised) {
     Call(form_.Get(), L"AsignarCampo", {Value(L"F"), Value(i)});
     Call(form_.Get(), L"AñadirCampoTabla", {Value(L"T"), Value(L"C"), Value(i), Value(3L)});
   }
+  RecordObject records;
+  EXPECT_EQ(Call(form_.Get(), L"AsignarDatosTablaQmF", {Value(&records)}).result, S_OK);
+  EXPECT_EQ(Call(form_.Get(), L"AsignarDatosTablaQmF2", {Value(&records)}).result, S_OK);
   Call(form_.Get(), L"ImprimirModelo");
   EXPECT_EQ(sink_.Calls(), 0);
   EXPECT_EQ(point_->Unadvise(cookie), S_OK);

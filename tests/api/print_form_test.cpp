@@ -300,9 +300,6 @@ TEST_F(PrintFormObject, SaysSoWhereAnActionIsNotAvailable) {
   EXPECT_EQ(form_->EnviarEmail(), RuntimeResult(445));
   EXPECT_EQ(form_->EmailModelo(text.Ref(), text.Ref(), text.Ref()), RuntimeResult(445));
   EXPECT_EQ(form_->CrearZip(text.Ref(), text.Ref()), RuntimeResult(445));
-  EXPECT_EQ(form_->AsignarDatosTabla(text.Ref(), nullptr, nullptr, nullptr), RuntimeResult(445));
-  EXPECT_EQ(form_->AsignarDatosTablaQmF(nullptr), RuntimeResult(445));
-  EXPECT_EQ(form_->AsignarDatosTablaQmF2(nullptr), RuntimeResult(445));
 }
 
 TEST_F(PrintFormObject, LeavesNoOldErrorInformationAfterASuccess) {

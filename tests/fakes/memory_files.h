@@ -34,6 +34,11 @@ class MemoryFiles : public platform::Files {
     return found == contents.end() ? std::nullopt : std::optional(found->second);
   }
 
+  [[nodiscard]] std::string ReadOrCreate(std::u16string_view path, std::size_t most) override {
+    if (failReadWith) throw runtime::RuntimeError(*failReadWith);
+    return contents.try_emplace(std::u16string(path)).first->second.substr(0, most);
+  }
+
   void Replace(std::u16string_view path, std::string_view bytes) override {
     if (failReplaceWith) throw runtime::RuntimeError(*failReplaceWith);
     contents.insert_or_assign(std::u16string(path), std::string(bytes));

@@ -1,7 +1,9 @@
-# Readers of model files, of their texts, and of dates of the host's records.
+# Readers of model files, of their texts, of dates of the host's records and of definition files.
 if(COMMAND qm_fuzz)
   qm_fuzz(model_fuzz SOURCES model_fuzz.cpp DEPENDS qm_model CORPUS "${CMAKE_CURRENT_LIST_DIR}/corpus/model")
   qm_fuzz(text_numbers_fuzz SOURCES text_numbers_fuzz.cpp DEPENDS qm_text
           CORPUS "${CMAKE_CURRENT_LIST_DIR}/corpus/text_numbers")
   qm_fuzz(dates_fuzz SOURCES dates_fuzz.cpp DEPENDS qm_data CORPUS "${CMAKE_CURRENT_LIST_DIR}/corpus/dates")
+  qm_fuzz(definition_fuzz SOURCES definition_fuzz.cpp DEPENDS qm_data
+          CORPUS "${CMAKE_CURRENT_LIST_DIR}/corpus/definition")
 endif()

@@ -131,26 +131,21 @@ class FileBeside {
   bool kept_ = false;
 };
 
-}  // namespace
-
-bool Win32Files::Exists(std::u16string_view path) {
-  const std::optional<DWORD> attributes = AttributesOf(SystemPath(path));
-  return attributes && (*attributes & FILE_ATTRIBUTE_DIRECTORY) == 0;
+OwnedFile OpenedForReading(std::u16string_view path, DWORD whetherToCreate) {
+  return OwnedFile(CreateFileW(Wide(SystemPath(path)), GENERIC_READ,
+                               FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE, nullptr,
+                               whetherToCreate, FILE_FLAG_SEQUENTIAL_SCAN, nullptr));
 }
 
-std::optional<std::string> Win32Files::Read(std::u16string_view path) {
-  const OwnedFile file(CreateFileW(Wide(SystemPath(path)), GENERIC_READ,
-                                   FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE, nullptr,
-                                   OPEN_EXISTING, FILE_FLAG_SEQUENTIAL_SCAN, nullptr));
-  if (!file) {
-    const DWORD error = GetLastError();
-    if (error == ERROR_FILE_NOT_FOUND || error == ERROR_PATH_NOT_FOUND) return std::nullopt;
-    ThrowFileError(error);
-  }
+LONGLONG SizeOf(const OwnedFile& file) {
   LARGE_INTEGER size{};
   if (!GetFileSizeEx(file.Get(), &size)) ThrowLastFileError();
-  if (size.QuadPart > INT32_MAX) Throw(ErrorNumber::OutOfMemory);
-  std::string bytes(static_cast<std::size_t>(size.QuadPart), '\0');
+  return size.QuadPart;
+}
+
+// From where the file stands; fewer bytes where it ends sooner.
+std::string ReadUpTo(const OwnedFile& file, std::size_t most) {
+  std::string bytes(most, '\0');
   std::size_t filled = 0;
   while (filled < bytes.size()) {
     const auto part = static_cast<DWORD>(std::min<std::size_t>(bytes.size() - filled, kLargestTransfer));
@@ -161,6 +156,30 @@ std::optional<std::string> Win32Files::Read(std::u16string_view path) {
   }
   bytes.resize(filled);
   return bytes;
+}
+
+}  // namespace
+
+bool Win32Files::Exists(std::u16string_view path) {
+  const std::optional<DWORD> attributes = AttributesOf(SystemPath(path));
+  return attributes && (*attributes & FILE_ATTRIBUTE_DIRECTORY) == 0;
+}
+
+std::optional<std::string> Win32Files::Read(std::u16string_view path) {
+  const OwnedFile file = OpenedForReading(path, OPEN_EXISTING);
+  if (!file) {
+    const DWORD error = GetLastError();
+    if (error == ERROR_FILE_NOT_FOUND || error == ERROR_PATH_NOT_FOUND) return std::nullopt;
+    ThrowFileError(error);
+  }
+  if (SizeOf(file) > INT32_MAX) Throw(ErrorNumber::OutOfMemory);
+  return ReadUpTo(file, static_cast<std::size_t>(SizeOf(file)));
+}
+
+std::string Win32Files::ReadOrCreate(std::u16string_view path, std::size_t most) {
+  const OwnedFile file = OpenedForReading(path, OPEN_ALWAYS);
+  if (!file) ThrowLastFileError();
+  return ReadUpTo(file, most);
 }
 
 void Win32Files::Replace(std::u16string_view path, std::string_view bytes) {

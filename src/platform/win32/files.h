@@ -10,6 +10,7 @@ class Win32Files : public Files {
   [[nodiscard]] bool Exists(std::u16string_view path) override;
   // Nothing also when the folder does not exist.
   [[nodiscard]] std::optional<std::string> Read(std::u16string_view path) override;
+  [[nodiscard]] std::string ReadOrCreate(std::u16string_view path, std::size_t most) override;
   // Keeps the access rights and the creation time of a file that is there. On failure the old file stays
   // and nothing else does; only where Windows has already lost the name of the old one does the new content
   // stay beside it, under a name that ends in ".tmp".

@@ -127,6 +127,33 @@ TEST_F(FilesOnDisk, ReadingAFileThatSomeoneLocksIsError70) {
   EXPECT_RUNTIME_ERROR(70, (void)files.Read(path));
 }
 
+TEST_F(FilesOnDisk, AMissingFileIsMadeEmptyByReadingItWhereAsked) {
+  EXPECT_EQ(files.ReadOrCreate(folder.File(u"CLIEN.Qma"), 10), "");
+  EXPECT_THAT(folder.Names(), ElementsAre(u"CLIEN.Qma"));
+  EXPECT_THAT(files.Read(folder.File(u"CLIEN.Qma")), Optional(std::string()));
+  EXPECT_RUNTIME_ERROR(76, (void)files.ReadOrCreate(folder.File(u"no\\CLIEN.Qma"), 10));
+}
+
+TEST_F(FilesOnDisk, AreReadUpToALengthWhileOthersWriteThem) {
+  const std::u16string path = folder.File(u"CLIEN.Qma");
+  files.Replace(path, "0123456789");
+  SetFileAttributesW(Wide(path), FILE_ATTRIBUTE_READONLY);
+  EXPECT_EQ(files.ReadOrCreate(path, 4), "0123");
+  SetFileAttributesW(Wide(path), FILE_ATTRIBUTE_NORMAL);
+  const OwnedFile writer(CreateFileW(Wide(path), GENERIC_WRITE, FILE_SHARE_READ | FILE_SHARE_WRITE, nullptr,
+                                     OPEN_EXISTING, 0, nullptr));
+  EXPECT_EQ(files.ReadOrCreate(path, 20), "0123456789");
+}
+
+TEST_F(FilesOnDisk, ReadingOrMakingALockedFileIsError70AndAFolderError75) {
+  const std::u16string path = folder.File(u"CLIEN.Qma");
+  files.Replace(path, "old");
+  const OwnedFile writer = OpenedBySomeoneElse(path, 0);
+  EXPECT_RUNTIME_ERROR(70, (void)files.ReadOrCreate(path, 10));
+  CreateDirectoryW(Wide(folder.File(u"carpeta")), nullptr);
+  EXPECT_RUNTIME_ERROR(75, (void)files.ReadOrCreate(folder.File(u"carpeta"), 10));
+}
+
 TEST_F(FilesOnDisk, WritingIntoAMissingFolderIsError76) {
   EXPECT_RUNTIME_ERROR(76, files.Replace(folder.File(u"no\\modelo.xml"), "new"));
   EXPECT_THAT(folder.Names(), IsEmpty());

@@ -168,16 +168,10 @@ void Print(void* form, const wchar_t* modelFile, hosts::Expectations& expect) {
 void CheckActionsToCome(void* form, hosts::Expectations& expect) {
   constexpr auto kNotSupported = static_cast<HRESULT>(0x800A01BD);
   BSTR text = nullptr;
-  SHORT number = 0;
-  SAFEARRAY* array = nullptr;
-  void* nothing = nullptr;
   expect.Result("EmailModelo", kNotSupported, At(form, 59, &text, &text, &text));
   expect.Result("EnviarEmail", kNotSupported, At(form, 60));
   expect.Result("CrearZip", kNotSupported, At(form, 61, &text, &text));
-  expect.Result("AsignarDatosTabla", kNotSupported, At(form, 66, &text, &number, &array, &array));
-  expect.Result("AsignarDatosTablaQmF", kNotSupported, At(form, 67, &nothing));
   expect.Result("Show", kNotSupported, At(form, 68));
-  expect.Result("AsignarDatosTablaQmF2", kNotSupported, At(form, 71, &nothing));
 }
 
 }  // namespace
