@@ -339,7 +339,7 @@ TEST_F(FieldsOfAModel, AModelThatNamesNoFontIsDrawnInTheSurfacesOwn) {
   SetModel("", "<Campo><Descripcion>#a</Descripcion><Width>500</Width><Bold>1</Bold></Campo>");
   fakes::RecordingSurface surface;
   surface.SetFont({.name = u"Verdana", .sizePoints = 7});
-  EXPECT_TRUE(Draw(job, environment, surface));
+  EXPECT_TRUE(Draw(surface));
   EXPECT_EQ(surface.Log(), "page 0x0\nfont Verdana 7 bold\n0,0 a\n");
 }
 
