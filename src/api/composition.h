@@ -8,6 +8,7 @@
 #include "platform/win32/pictures.h"
 #include "platform/win32/printers.h"
 #include "platform/win32/prompts.h"
+#include "platform/win32/settings.h"
 #include "platform/win32/spooler.h"
 #include "platform/win32/user_settings.h"
 #include "print/engine.h"
@@ -23,7 +24,7 @@ class Composition {
   // Shared by all print jobs of the process.
   [[nodiscard]] model::ModelFile& ModelFile() noexcept { return modelFile_; }
 
-  // False when the user ended the printing early. Sheets of labels are not part of this version: error 445.
+  // False when the user ended the printing early.
   [[nodiscard]] bool Imprimir(data::PrintJob& job);
 
  private:
@@ -36,6 +37,7 @@ class Composition {
   platform::win32::Win32Spooler spooler_;
   platform::win32::Win32Pictures pictures_;
   platform::win32::Win32Prompts prompts_;
+  platform::win32::Win32Settings settings_;
   platform::win32::Win32Clock clock_;
 };
 
