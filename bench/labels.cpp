@@ -6,9 +6,9 @@
 #include <ctime>
 #include <memory>
 
+#include "bench/label_sheet.h"
 #include "print/label_sheets.h"
 #include "print/model_choice.h"
-#include "runtime/code_page.h"
 #include "tests/fakes/fake_pictures.h"
 #include "tests/fakes/fake_settings.h"
 #include "tests/fakes/fixed_clock.h"
@@ -20,35 +20,6 @@
 namespace {
 
 using namespace qm;
-
-constexpr const char* kColumns[] = {"NOMBRE (CLIEN)", "DOMICI (CLIEN)", "POBLAC (CLIEN)", "CODPOS (CLIEN)",
-                                    "SALDO (CLIEN)"};
-
-std::string ModelFileBytes() {
-  std::string text =
-      "<Modelos><Modelo Numero=\"1\" Width=\"5670\" Height=\"2000\" Copias=\"1\" EsEtiqueta=\"1\">";
-  int top = 100;
-  for (const char* const column : kColumns) {
-    text +=
-        std::string("<Campo><Descripcion>") + column + "</Descripcion><Top>" + std::to_string(top) +
-        "</Top><Left>200</Left><Width>5000</Width><Height>300</Height><ForeColor>0</ForeColor>"
-        "<Bold>Falso</Bold><FontSize>8,25</FontSize><FontItalic>Falso</FontItalic><Alignment>0</Alignment>"
-        "<Underline>Falso</Underline><FontName>Arial</FontName></Campo>";
-    top += 350;
-  }
-  return text + "</Modelo></Modelos>";
-}
-
-data::Cells Row(int number) {
-  const std::u16string values[] = {u"Peña e Hijos " + runtime::FromUtf8(std::to_string(number)),
-                                   u"Calle de la Constitución 12, 3.º", u"Alcalá de Henares", u"28801",
-                                   u"1234.5"};
-  data::Cells cells;
-  for (std::size_t i = 0; i < std::size(kColumns); ++i)
-    cells.push_back(
-        {u"CLIEN", runtime::FromUtf8(kColumns[i]), values[i], static_cast<std::int16_t>(i == 4 ? 3 : 0)});
-  return cells;
-}
 
 struct World {
   std::string log;
@@ -68,8 +39,8 @@ struct World {
   explicit World(int rows) {
     spooler.supportsForms = false;
     modelFile.SetName(u"C:\\Modelos\\etiquetas.xml");
-    files.Replace(modelFile.name, ModelFileBytes());
-    for (int row = 0; row < rows; ++row) job.rows.emplace_back(Row(row));
+    files.Replace(modelFile.name, bench::LabelModelBytes());
+    for (int row = 0; row < rows; ++row) job.rows.emplace_back(bench::LabelRow(row));
   }
 
   void Print() {
