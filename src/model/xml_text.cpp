@@ -1,7 +1,7 @@
 #include "model/xml_text.h"
 
 #include <algorithm>
-#include <array>
+#include <charconv>
 #include <cstddef>
 #include <cstdint>
 
@@ -10,19 +10,59 @@
 namespace qm::model {
 namespace {
 
-bool IsAscii(char byte) { return static_cast<std::uint8_t>(byte) < 0x80; }
+// ---- Out of the file
 
-const std::array<std::string, 256>& Utf8OfBytes() {
-  static const auto texts = [] {
-    std::array<std::string, 256> table;
-    for (std::size_t byte = 0; byte < table.size(); ++byte) {
-      const char16_t letter = runtime::FromByte(static_cast<std::uint8_t>(byte));
-      table[byte] = runtime::ToUtf8(std::u16string_view(&letter, 1));
-    }
-    return table;
-  }();
-  return texts;
+char16_t NamedCharacter(std::string_view name) {
+  if (name == "amp") return u'&';
+  if (name == "lt") return u'<';
+  if (name == "gt") return u'>';
+  return name == "quot" ? u'"' : u'\'';
 }
+
+// What stands between "&" and ";".
+void AppendReferenced(std::u16string& out, std::string_view reference) {
+  if (!reference.starts_with('#')) {
+    out += NamedCharacter(reference);
+    return;
+  }
+  const bool hexadecimal = reference.starts_with("#x");
+  const std::string_view digits = reference.substr(hexadecimal ? 2 : 1);
+  std::uint32_t point = 0;
+  std::from_chars(digits.data(), digits.data() + digits.size(), point, hexadecimal ? 16 : 10);
+  if (point >= 0x10000) {
+    out += static_cast<char16_t>(0xD7C0 + (point >> 10));
+    point = 0xDC00 + (point & 0x3FF);
+  }
+  out += static_cast<char16_t>(point);
+}
+
+bool IsPlain(char byte) { return static_cast<std::uint8_t>(byte) >= 0x20 && byte != '&'; }
+
+enum class Part { ElementText, CharacterData, AttributeValue };
+
+void Append(std::u16string& out, std::string_view raw, Part part) {
+  const bool isValue = part == Part::AttributeValue;
+  while (true) {
+    const auto plain =
+        static_cast<std::size_t>(std::find_if_not(raw.begin(), raw.end(), IsPlain) - raw.begin());
+    runtime::AppendBytes(out, raw.substr(0, plain));
+    if (plain == raw.size()) return;
+    const char stop = raw[plain];
+    raw.remove_prefix(plain + 1);
+    if (stop == '&' && part != Part::CharacterData) {
+      const std::string_view reference = raw.substr(0, raw.find(';'));
+      AppendReferenced(out, reference);
+      raw.remove_prefix(std::min(reference.size() + 1, raw.size()));
+    } else if (stop == '\r') {
+      if (raw.starts_with('\n')) raw.remove_prefix(1);
+      out += isValue ? u' ' : u'\n';
+    } else {
+      out += isValue ? u' ' : static_cast<char16_t>(stop);
+    }
+  }
+}
+
+// ---- Into the file
 
 bool IsForbidden(char16_t unit) {
   return (unit < 0x20 && unit != u'\t' && unit != u'\n' && unit != u'\r') || unit >= 0xFFFE;
@@ -64,16 +104,13 @@ bool IsTrailing(char16_t unit) { return (unit & 0xFC00) == 0xDC00; }
 
 }  // namespace
 
-std::string Utf8FromCodePage(std::string_view bytes) {
-  const auto& utf8 = Utf8OfBytes();
-  std::string text;
-  text.reserve(bytes.size() + bytes.size() / 16);
-  for (auto at = bytes.begin(); at != bytes.end();) {
-    const auto run = std::find_if_not(at, bytes.end(), IsAscii);
-    text.append(at, run);
-    at = run;
-    for (; at != bytes.end() && !IsAscii(*at); ++at) text += utf8[static_cast<std::uint8_t>(*at)];
-  }
+void AppendElementText(std::u16string& out, std::string_view raw) { Append(out, raw, Part::ElementText); }
+
+void AppendCharacterData(std::u16string& out, std::string_view raw) { Append(out, raw, Part::CharacterData); }
+
+std::u16string AttributeText(std::string_view raw) {
+  std::u16string text;
+  Append(text, raw, Part::AttributeValue);
   return text;
 }
 

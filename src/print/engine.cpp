@@ -24,8 +24,8 @@ class Composition {
   }
 
   void PrintFields(std::int16_t copy) {
-    for (const auto& children : model_.fields) {
-      ReadField(children, locale_, field_);
+    for (const auto& elements : model_.fields) {
+      ReadField(elements, locale_, field_);
       std::int16_t kind = data::kPlainText;
       const std::u16string value = lookup_.ObtenerValor(field_.descripcion, copy, kind);
       const platform::Point topLeft{static_cast<double>(field_.left), static_cast<double>(field_.top)};
