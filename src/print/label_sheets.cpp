@@ -51,7 +51,7 @@ class LabelFields {
   }
 
  private:
-  const std::vector<std::vector<model::Property>>& fields_;
+  const std::vector<std::vector<model::FieldText>>& fields_;
   const runtime::Locale& locale_;
   FieldState current_;
   std::vector<FieldState> lasting_;
