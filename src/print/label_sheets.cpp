@@ -26,9 +26,9 @@ int FilledRows(const data::PrintJob& job) {
 class LabelFields {
  public:
   LabelFields(const model::ModelTexts& model, const runtime::Locale& locale, platform::Font font)
-      : fields_(model.fields), locale_(locale) {
+      : model_(model), locale_(locale) {
     current_.font = std::move(font);
-    lasting_.reserve(fields_.size());
+    lasting_.reserve(model.fields.size());
   }
 
   // A copy that a failing printer cut short leaves standing what the last field printed had.
@@ -41,9 +41,9 @@ class LabelFields {
   template <typename Print>
   void ForEach(Print&& print) {
     const bool read = labels_ < 2;
-    for (std::size_t i = 0; i < fields_.size(); ++i) {
+    for (std::size_t i = 0; i < model_.fields.size(); ++i) {
       last_ = i;
-      if (read) ReadField(fields_[i], locale_, current_);
+      if (read) ReadField(model_.fields[i], locale_, current_);
       if (read && labels_ == 1) lasting_.push_back(current_);
       print(read ? current_ : lasting_[i]);
     }
@@ -51,7 +51,7 @@ class LabelFields {
   }
 
  private:
-  const std::vector<std::vector<model::FieldText>>& fields_;
+  const model::ModelTexts& model_;
   const runtime::Locale& locale_;
   FieldState current_;
   std::vector<FieldState> lasting_;
