@@ -38,7 +38,7 @@ std::optional<double> NumberOf(std::string_view text) {
 
 std::optional<double> NumberOf(const XmlOutline::Child& child) {
   if (child.numero.find('&') == std::string_view::npos) return NumberOf(child.numero);
-  return NumberOf(std::string_view(runtime::ToUtf8(AttributeText(child.numero))));
+  return NumberOf(std::string_view(AttributeOf(child.whole, "Numero")));
 }
 
 // ---- Writing

@@ -26,7 +26,7 @@ struct Property {
   std::u16string text;
 };
 struct FieldText {
-  FieldElement element;
+  FieldElement element{};
   std::u16string text;
 };
 

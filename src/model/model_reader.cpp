@@ -1,157 +1,102 @@
 #include "model/model_reader.h"
 
-#include <algorithm>
-#include <utility>
+#include <cstddef>
+#include <pugixml.hpp>
 
 #include "model/xml_text.h"
 #include "runtime/code_page.h"
+#include "runtime/error.h"
 
 namespace qm::model {
 namespace {
 
-bool IsBlank(char c) { return c == ' ' || c == '\t' || c == '\r' || c == '\n'; }
-bool EndsName(char c) { return IsBlank(c) || c == '/' || c == '>' || c == '='; }
+using pugi::xml_node;
+using runtime::ErrorNumber;
+using runtime::RuntimeError;
+
+// White space between elements is dropped; a leaf keeps its text even when it is nothing else.
+constexpr unsigned kParseOptions = pugi::parse_pi | pugi::parse_comments | pugi::parse_cdata |
+                                   pugi::parse_escapes | pugi::parse_eol | pugi::parse_wconv_attribute |
+                                   pugi::parse_ws_pcdata_single;
 
 std::string_view LocalName(std::string_view name) { return name.substr(name.find(':') + 1); }
 
-// One pass over model, fields and their properties, which are the first three levels of elements; the texts
-// of elements inside a property are part of its own.
-class Reader {
+class Parsed {
  public:
-  explicit Reader(std::string_view element) : rest_(element) {}
-
-  ModelTexts Read() {
-    do {
-      const std::size_t markup = std::min(rest_.find('<'), rest_.size());
-      if (markup > 0) Text(Taken(markup));
-      if (!rest_.empty()) Markup();
-    } while (depth_ > 0 && !rest_.empty());
-    return std::move(texts_);
+  explicit Parsed(std::string_view bytes) : text_(Utf8FromCodePage(bytes)) {
+    const auto result =
+        document_.load_buffer_inplace(text_.data(), text_.size(), kParseOptions, pugi::encoding_utf8);
+    if (result.status == pugi::status_out_of_memory) throw RuntimeError(ErrorNumber::OutOfMemory);
+    if (!result) throw RuntimeError(ErrorNumber::ObjectNotSet);
   }
+
+  [[nodiscard]] xml_node Element() const { return document_.first_child(); }
 
  private:
-  enum Level { kModel, kField, kProperty, kInside };
-
-  std::string_view Taken(std::size_t count) {
-    const std::string_view part = rest_.substr(0, count);
-    rest_.remove_prefix(part.size());
-    return part;
-  }
-  std::string_view TakenUntil(std::string_view terminator) {
-    const std::string_view part = Taken(std::min(rest_.find(terminator), rest_.size()));
-    Taken(terminator.size());
-    return part;
-  }
-  bool Take(std::string_view expected) {
-    if (!rest_.starts_with(expected)) return false;
-    rest_.remove_prefix(expected.size());
-    return true;
-  }
-  std::string_view TakenName() {
-    return Taken(
-        static_cast<std::size_t>(std::find_if(rest_.begin(), rest_.end(), EndsName) - rest_.begin()));
-  }
-  void SkipBlanks() {
-    while (!rest_.empty() && IsBlank(rest_.front())) rest_.remove_prefix(1);
-  }
-
-  // The text that is being read, if any.
-  [[nodiscard]] std::u16string* Open() {
-    return inProperty_ && depth_ >= kInside ? &texts_.fields.back().back().text : nullptr;
-  }
-
-  // White space alone is a text only where it is all that an element has.
-  void Text(std::string_view raw) {
-    std::u16string* const text = Open();
-    if (!text) return;
-    const bool wholeContent = afterStartTag_ && rest_.starts_with("</");
-    if (wholeContent || !std::all_of(raw.begin(), raw.end(), IsBlank)) AppendElementText(*text, raw);
-    afterStartTag_ = false;
-  }
-
-  void Markup() {
-    if (Take("</")) {
-      TakenUntil(">");
-      --depth_;
-      afterStartTag_ = false;
-    } else if (rest_.starts_with("<!") || rest_.starts_with("<?")) {
-      OtherMarkup();
-      afterStartTag_ = false;
-    } else {
-      StartTag();
-    }
-  }
-
-  void OtherMarkup() {
-    if (Take("<![CDATA[")) {
-      const std::string_view data = TakenUntil("]]>");
-      if (std::u16string* const text = Open()) AppendCharacterData(*text, data);
-    } else {
-      TakenUntil(Take("<!--") ? "-->" : "?>");
-    }
-  }
-
-  void StartTag() {
-    Taken(1);
-    Enter(LocalName(TakenName()));
-    for (SkipBlanks(); !rest_.empty() && !EndsName(rest_.front()); SkipBlanks()) Attribute();
-    if (Take("/")) {
-      afterStartTag_ = false;
-    } else {
-      ++depth_;
-      afterStartTag_ = true;
-    }
-    Taken(1);
-  }
-
-  void Enter(std::string_view name) {
-    if (depth_ == kField) {
-      inField_ = name == "Campo";
-      if (inField_) AddField();
-    } else if (depth_ == kProperty) {
-      inProperty_ = inField_ && AddProperty(name);
-    }
-  }
-
-  // Most fields have as many properties as the one before.
-  void AddField() {
-    const std::size_t properties = texts_.fields.empty() ? 0 : texts_.fields.back().size();
-    texts_.fields.emplace_back().reserve(properties);
-  }
-
-  // Looked for from where the one before was found: elements mostly stand in their usual order.
-  bool AddProperty(std::string_view name) {
-    for (std::size_t tried = 0; tried < kFieldElementNames.size(); ++tried) {
-      const std::size_t element = likely_;
-      likely_ = (likely_ + 1) % kFieldElementNames.size();
-      if (kFieldElementNames[element] != name) continue;
-      texts_.fields.back().push_back({static_cast<FieldElement>(element), {}});
-      return true;
-    }
-    return false;
-  }
-
-  void Attribute() {
-    const std::string_view name = TakenName();
-    TakenUntil("=");
-    SkipBlanks();
-    const std::string_view quote = Taken(1);
-    const std::string_view value = TakenUntil(quote);
-    if (depth_ == kModel)
-      texts_.attributes.push_back({runtime::FromBytes(LocalName(name)), AttributeText(value)});
-  }
-
-  std::string_view rest_;
-  int depth_ = kModel;  // of open elements, which is also the level that the next one is on
-  bool inField_ = false;
-  bool inProperty_ = false;
-  std::size_t likely_ = 0;  // index of the element that is expected next
-  bool afterStartTag_ = false;
-  ModelTexts texts_;
+  std::string text_;  // the nodes' texts lie in it
+  pugi::xml_document document_;
 };
+
+bool IsText(xml_node node) { return node.type() == pugi::node_pcdata || node.type() == pugi::node_cdata; }
+
+// The texts of an element and of the elements inside it, whose nesting the outline has limited.
+void CollectText(xml_node element, std::string& text) {
+  for (const xml_node child : element.children()) {
+    if (IsText(child)) {
+      text += child.value();
+    } else {
+      CollectText(child, text);
+    }
+  }
+}
+
+std::u16string TextOf(xml_node element) {
+  const xml_node only = element.first_child();
+  if (!only) return {};
+  if (IsText(only) && !only.next_sibling()) return runtime::FromUtf8(only.value());
+  std::string text;
+  CollectText(element, text);
+  return runtime::FromUtf8(text);
+}
+
+// Looked for from behind the one before: elements mostly stand in their usual order.
+std::optional<FieldElement> ElementNamed(std::string_view name, std::size_t& likely) {
+  for (std::size_t tried = 0; tried < kFieldElementNames.size(); ++tried) {
+    const std::size_t element = likely;
+    likely = (likely + 1) % kFieldElementNames.size();
+    if (kFieldElementNames[element] == name) return static_cast<FieldElement>(element);
+  }
+  return std::nullopt;
+}
+
+std::vector<FieldText> FieldTexts(xml_node campo) {
+  std::vector<FieldText> texts;
+  texts.reserve(kFieldElementNames.size());
+  std::size_t likely = 0;
+  for (const xml_node child : campo.children()) {
+    if (child.type() != pugi::node_element) continue;
+    if (const auto element = ElementNamed(LocalName(child.name()), likely))
+      texts.push_back({*element, TextOf(child)});
+  }
+  return texts;
+}
 
 }  // namespace
 
-ModelTexts ReadModel(std::string_view element) { return Reader(element).Read(); }
+ModelTexts ReadModel(std::string_view element) {
+  const Parsed parsed(element);
+  ModelTexts texts;
+  for (const pugi::xml_attribute attribute : parsed.Element().attributes())
+    texts.attributes.push_back(
+        {runtime::FromUtf8(LocalName(attribute.name())), runtime::FromUtf8(attribute.value())});
+  for (const xml_node child : parsed.Element().children())
+    if (child.type() == pugi::node_element && LocalName(child.name()) == "Campo")
+      texts.fields.push_back(FieldTexts(child));
+  return texts;
+}
+
+std::string AttributeOf(std::string_view element, const char* name) {
+  return Parsed(element).Element().attribute(name).value();
+}
 
 }  // namespace qm::model

@@ -1,7 +1,9 @@
 #pragma once
-// The texts of one model, read out of the bytes of its element. They must be well-formed, as an outline's
-// children are: nothing is checked again. Names are given without namespace prefix.
+// The texts of one model, read by the XML library out of the bytes of its element. Names are given without
+// namespace prefix.
+// Errors: 7 without memory, 91 for an element that the library does not take.
 
+#include <string>
 #include <string_view>
 
 #include "model/document.h"
@@ -9,5 +11,8 @@
 namespace qm::model {
 
 [[nodiscard]] ModelTexts ReadModel(std::string_view element);
+
+// An attribute of the element, references resolved; "" when it is missing.
+[[nodiscard]] std::string AttributeOf(std::string_view element, const char* name);
 
 }  // namespace qm::model

@@ -1,17 +1,12 @@
 #pragma once
-// Texts on their way out of the file, which is in the 8-bit code page, and into it.
+// Texts on their way out of the file's 8-bit code page into the XML library's UTF-8, and into the file.
 
 #include <string>
 #include <string_view>
 
 namespace qm::model {
 
-// What a reader makes of well-formed text: references are resolved, and line ends become line feeds...
-void AppendElementText(std::u16string& out, std::string_view raw);
-// ...in a section that knows no references...
-void AppendCharacterData(std::u16string& out, std::string_view raw);
-// ...and in an attribute's value, where line ends and tabs become blanks.
-[[nodiscard]] std::u16string AttributeText(std::string_view raw);
+[[nodiscard]] std::string Utf8FromCodePage(std::string_view bytes);
 
 // Where a text is written.
 enum class Escape {

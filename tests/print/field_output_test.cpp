@@ -279,10 +279,25 @@ TEST_F(PictureFields, TheDataGoThroughTheScratchFileAndTheClipboardScaledToTheBo
   field.height = 760;
   Print(u"PICTURE 40x30", data::kPictureData);
   EXPECT_EQ(surface.Log(), "picture 100x51 px 1000,500\n");
-  EXPECT_EQ(pictures.Log(),
-            "load " + runtime::ToUtf8(ScratchPath()) + "\nscale 40x30 to 100x51\nclipboard 100x51\n");
+  EXPECT_EQ(pictures.Log(), "decode\nscale 40x30 to 100x51\nclipboard 100x51\n");
   EXPECT_EQ(files.Read(ScratchPath()), "PICTURE 40x30");
   ASSERT_NE(pictures.Clipboard(), nullptr);
+}
+
+// Another host of the same user writes its own picture to the same file.
+class FilesOfTwoHosts : public fakes::MemoryFiles {
+ public:
+  void Replace(std::u16string_view path, std::string_view) override {
+    MemoryFiles::Replace(path, "PICTURE 999x999");
+  }
+};
+
+TEST_F(PictureFields, TheFieldsOwnPictureIsPrintedWhoeverWritesTheScratchFileToo) {
+  FilesOfTwoHosts shared;
+  fakes::FakePictures itsPictures(shared);
+  FieldPrinter printer(surface, shared, itsPictures);
+  printer.Print(field, {0, 0}, u"PICTURE 40x30", data::kPictureData);
+  EXPECT_THAT(itsPictures.Log(), testing::HasSubstr("scale 40x30"));
 }
 
 TEST_F(PictureFields, BytesOfEveryCodeReachTheFileUnchanged) {

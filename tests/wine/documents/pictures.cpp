@@ -3,6 +3,7 @@
 //   good WIDTH HEIGHT    the last file's picture is afterwards on the clipboard, WIDTH by HEIGHT pixels, and
 //   its
 //                        bytes in the folder of temporary files (two arguments before the files)
+//   disturbed            like good, but somebody else uses the clipboard meanwhile
 //   broken               the print fails with the error of an invalid picture
 #include <cwchar>
 #include <vector>
@@ -55,6 +56,7 @@ std::wstring ScratchPicture() {
 int wmain(int count, wchar_t** arguments) {
   if (count < 4) return 2;
   const bool good = std::wcscmp(arguments[1], L"good") == 0;
+  const bool broken = std::wcscmp(arguments[1], L"broken") == 0;
   int next = 4;
   const long width = good && count > next + 1 ? _wtol(arguments[next++]) : 0;
   const long height = good && count > next ? _wtol(arguments[next++]) : 0;
@@ -71,7 +73,7 @@ int wmain(int count, wchar_t** arguments) {
     }
     DeleteFileW(ScratchPicture().c_str());
     const HRESULT printed = host.Print();
-    expect.Result("printed", good ? S_OK : hosts::ErrorResult(481), printed);
+    expect.Result("printed", broken ? hosts::ErrorResult(481) : S_OK, printed);
     expect.True("an error is no cancelling", !host.Cancelled());
     if (good) {
       CheckClipboard(width, height, expect);

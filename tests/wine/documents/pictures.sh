@@ -1,5 +1,5 @@
 #!/bin/bash
-# pictures.sh PROGRAM: pictures that the host hands over fill their boxes, a background stands at the page's
+# pictures.sh PROGRAM CLIPBOARD_USER: pictures that the host hands over fill their boxes, a background stands at the page's
 # corner at its own size; a picture that cannot be read fails the print, of which nothing comes out.
 source "$(dirname "$0")/lib.sh"
 need ps2pdf pdftoppm pdftotext python3 convert
@@ -8,6 +8,13 @@ program=$1
 models=$QM_SCRATCH/modelos.xml
 text="Left=6000 Width=4000 Height=400 FontSize=10 FontName=Arial"
 attributes="$a4 Copias=\"1\""
+photos=() boxes=()
+for left in 600 4200 7800; do
+  for top in 600 3400 6200 9000 11800; do
+    photos+=("$(campo 'FOTO (SOCIO)' "Left=$left Top=$top Width=3000 Height=2250")")
+    boxes+=("picture:$left,$top,3000,2250")
+  done
+done
 write_models "$models" \
   "$(modelo 1 "$attributes" "$(campo '#Antes' "Top=600 $text")" \
      "$(campo 'FOTO (SOCIO)' 'Left=2000 Top=3000 Width=3000 Height=2250')" \
@@ -16,6 +23,7 @@ write_models "$models" \
      "$(campo 'FOTO (SOCIO)' 'Left=6000 Top=9000 Width=3000 Height=2250')")" \
   "$(modelo 3 "$a4 Copias=\"2\"" "$(campo '#Antes' "Top=600 $text")" \
      "$(campo 'FOTO (SOCIO)' 'Left=2000 Top=3000 Width=3000 Height=2250')" "$(campo '#Después' "Top=14000 $text")")" \
+  "$(modelo 5 "$attributes" "${photos[@]}")" \
   "$(modelo 4 "$attributes Imagen=\"rota.bmp\"" "$(campo '#Encima' "Top=600 $text")")"
 
 # picture WIDTH HEIGHT FILE: red and green above, blue and yellow below.
@@ -44,3 +52,9 @@ fresh_jobs
 host broken 3 "$rota" 'FOTO (SOCIO)'
 host broken 4
 expect_jobs 0
+
+# Whatever other programs do with the clipboard, each box gets its own picture.
+expect_good_host "$2" "$(windows_path "$program")" disturbed "$(windows_path "$models")" 5 "$foto" 'FOTO (SOCIO)'
+expect_jobs 1
+job_pdf 1 "$QM_SCRATCH/1.pdf"
+"$documents/pictures.py" "$QM_SCRATCH/1.pdf" "${boxes[@]}"
