@@ -12,6 +12,7 @@
 #include "print/model_choice.h"
 #include "runtime/code_page.h"
 #include "tests/fakes/fake_pictures.h"
+#include "tests/fakes/fake_settings.h"
 #include "tests/fakes/fixed_clock.h"
 #include "tests/fakes/memory_files.h"
 #include "tests/fakes/recording_printer.h"
@@ -76,12 +77,13 @@ struct World {
   fakes::ScriptedSpooler spooler;
   fakes::FakePictures pictures{files};
   fakes::ScriptedPrompts prompts;
+  fakes::FakeSettings settings;
   fakes::FixedClock clock;
   model::ModelFile modelFile;
   print::PaperFormState paperForms;
   data::PrintJob job;
-  print::Environment environment{
-      files, printers, spooler, pictures, prompts, clock, modelFile, paperForms, runtime::Locale::Spanish()};
+  print::Environment environment{files,    printers, spooler,   pictures,   prompts,
+                                 settings, clock,    modelFile, paperForms, runtime::Locale::Spanish()};
 
   World() {
     modelFile.SetName(u"C:\\Modelos\\factura.xml");

@@ -21,6 +21,7 @@
 #include "platform/win32/pictures.h"
 #include "platform/win32/printers.h"
 #include "platform/win32/prompts.h"
+#include "platform/win32/settings.h"
 #include "platform/win32/spooler.h"
 #include "platform/win32/user_settings.h"
 #include "print/engine.h"
@@ -58,12 +59,13 @@ class Host {
   win32::Win32Spooler spooler_;
   win32::Win32Pictures pictures_;
   win32::Win32Prompts prompts_;
+  win32::Win32Settings settings_;
   win32::Win32Clock clock_;
   model::ModelFile modelFile_;
   print::PaperFormState paperForms_;
   data::PrintJob job_;
-  print::Environment environment_{files_, printers_,  spooler_,    pictures_,          prompts_,
-                                  clock_, modelFile_, paperForms_, win32::UserLocale()};
+  print::Environment environment_{files_,    printers_, spooler_,   pictures_,   prompts_,
+                                  settings_, clock_,    modelFile_, paperForms_, win32::UserLocale()};
 };
 
 void DrawRaw(const bench::RawScene& scene) {

@@ -8,6 +8,7 @@
 #include "platform/win32/pictures.h"
 #include "platform/win32/printers.h"
 #include "platform/win32/prompts.h"
+#include "platform/win32/settings.h"
 #include "platform/win32/spooler.h"
 #include "platform/win32/user_settings.h"
 #include "print/engine.h"
@@ -26,7 +27,7 @@ class Composition {
   [[nodiscard]] platform::Files& Files() noexcept { return files_; }
   [[nodiscard]] platform::Clock& Clock() noexcept { return clock_; }
 
-  // False when the user ended the printing early. Sheets of labels are not part of this version: error 445.
+  // False when the user ended the printing early.
   [[nodiscard]] bool Imprimir(data::PrintJob& job);
 
  private:
@@ -39,6 +40,7 @@ class Composition {
   platform::win32::Win32Spooler spooler_;
   platform::win32::Win32Pictures pictures_;
   platform::win32::Win32Prompts prompts_;
+  platform::win32::Win32Settings settings_;
   platform::win32::Win32Clock clock_;
 };
 

@@ -24,12 +24,13 @@ struct Paper {
   double heightTwips = 0;
 };
 
-// One print job at a time: the first text or picture starts the job, EndDoc sends it. A job that is not
-// ended is thrown away with the surface.
+// One print job at a time: the first text or picture starts the job, NewPage ends its page and begins the
+// next, EndDoc sends it. A job that is not ended is thrown away with the surface.
 class PrinterSurface : public Surface {
  public:
   [[nodiscard]] virtual std::u16string DeviceName() const = 0;
   virtual void SetPaper(const Paper& paper) = 0;  // between jobs
+  virtual void NewPage() = 0;                     // within a job
   virtual void EndDoc() = 0;
 };
 

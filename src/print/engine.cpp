@@ -56,7 +56,7 @@ bool Print(data::PrintJob& job, const Environment& environment, const model::Mod
   Composition composition(job, environment, model, *printer);
   for (int copy = 1; copy <= settings->copies; ++copy) {
     BeginJob(*printer, settings->width, settings->height, environment);
-    PaintBackground(*printer, *settings, environment);
+    PaintBackground(*printer, LoadBackground(*settings, environment).get());
     UntilThePrinterFails([&] { composition.PrintFields(static_cast<std::int16_t>(copy)); });
     printer->EndDoc();
   }
@@ -69,7 +69,7 @@ bool Draw(data::PrintJob& job, const Environment& environment, const model::Mode
   if (!settings) return false;
 
   surface.SetPageSize(settings->width, settings->height);
-  PaintBackground(surface, *settings, environment);
+  PaintBackground(surface, LoadBackground(*settings, environment).get());
   Composition composition(job, environment, model, surface);
   UntilThePrinterFails([&] { composition.PrintFields(data::kNoCopyNumbering); });
   return true;

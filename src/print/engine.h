@@ -11,6 +11,7 @@
 #include "platform/pictures.h"
 #include "platform/printers.h"
 #include "platform/prompts.h"
+#include "platform/settings.h"
 #include "platform/spooler.h"
 #include "print/paper_forms.h"
 #include "runtime/locale.h"
@@ -24,6 +25,7 @@ struct Environment {
   platform::Spooler& spooler;
   platform::Pictures& pictures;
   platform::Prompts& prompts;
+  platform::Settings& settings;
   platform::Clock& clock;
   const model::ModelFile& modelFile;
   PaperFormState& paperForms;

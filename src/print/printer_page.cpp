@@ -36,11 +36,13 @@ void BeginJob(platform::PrinterSurface& printer, double pageWidth, double pageHe
   printer.PrintText({0, 0}, u" ");  // starts the job: a model without fields gives a page too
 }
 
-void PaintBackground(platform::Surface& surface, const PageSettings& settings,
-                     const Environment& environment) {
-  if (!settings.background) return;
-  const auto picture = environment.pictures.Load(*settings.background);
-  surface.PaintPicture(*picture, {0, 0});
+std::unique_ptr<platform::Picture> LoadBackground(const PageSettings& settings,
+                                                  const Environment& environment) {
+  return settings.background ? environment.pictures.Load(*settings.background) : nullptr;
+}
+
+void PaintBackground(platform::Surface& surface, const platform::Picture* background) {
+  if (background) surface.PaintPicture(*background, {0, 0});
 }
 
 }  // namespace qm::print

@@ -20,9 +20,11 @@ namespace qm::print {
 void BeginJob(platform::PrinterSurface& printer, double pageWidth, double pageHeight,
               const Environment& environment);
 
-// At the page's origin and at its own size, where the model has one.
-void PaintBackground(platform::Surface& surface, const PageSettings& settings,
-                     const Environment& environment);
+// The model's background; nothing where it has none.
+[[nodiscard]] std::unique_ptr<platform::Picture> LoadBackground(const PageSettings& settings,
+                                                                const Environment& environment);
+// At the page's origin and at its own size.
+void PaintBackground(platform::Surface& surface, const platform::Picture* background);
 
 // A printer that fails while fields are drawn ends them quietly: the page goes out as it stands.
 template <typename DrawFields>

@@ -2,9 +2,10 @@
 // Printers whose jobs are written to one readable log, besides the lines of the recording surface:
 //   open Impresora A4                        a printer taken as the surface
 //   paper code=7 "PS" 11906x16848            a paper set for the next job
+//   new page                                 the next page of a job
 //   end                                      a job sent
 //   abandoned                                a job thrown away with the surface
-// Texts and ends of jobs can be told to fail with 482.
+// Texts, new pages and ends of jobs can be told to fail with 482.
 
 #include <algorithm>
 #include <memory>
@@ -21,6 +22,7 @@ namespace qm::fakes {
 
 struct PrinterFaults {
   int text = 0;  // which text of the surface fails, the opening blank being the first; 0 none
+  int page = 0;  // which new page fails; 0 none
   int end = 0;   // which end of a job fails; 0 none
 };
 
@@ -54,6 +56,11 @@ class RecordingPrinter : public Recording<platform::PrinterSurface> {
     Recording::PaintPicture(picture, at);
   }
 
+  void NewPage() override {
+    if (!jobStarted_ || ++pages_ == faults_.page) Fail();
+    Write("new page");
+  }
+
   void EndDoc() override {
     if (++ends_ == faults_.end) Fail();
     jobStarted_ = false;
@@ -66,6 +73,7 @@ class RecordingPrinter : public Recording<platform::PrinterSurface> {
   std::u16string deviceName_;
   PrinterFaults faults_;
   int texts_ = 0;
+  int pages_ = 0;
   int ends_ = 0;
   bool jobStarted_ = false;
 };

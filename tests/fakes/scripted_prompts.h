@@ -20,9 +20,17 @@ class ScriptedPrompts : public platform::Prompts {
     std::u16string defaultAnswer;
   };
 
+  struct AskedOptions {
+    std::u16string title;
+    std::vector<platform::OptionEntry> entries;
+  };
+
   std::deque<std::u16string> answers;           // to value prompts, in order; "" when used up
   std::optional<std::u16string> printer = u"";  // nothing: the prompt cannot be shown
+  std::vector<std::u16string> options;          // to an options dialog; empty: accepted as offered
+  bool cancelOptions = false;
   std::vector<Asked> asked;
+  std::vector<AskedOptions> askedOptions;
   std::vector<std::u16string> printerPrompts;  // title + "|" + text
   std::vector<std::u16string> warnings;
 
@@ -40,6 +48,16 @@ class ScriptedPrompts : public platform::Prompts {
     printerPrompts.push_back(std::u16string(title) + u"|" + std::u16string(text));
     if (!printer) throw runtime::RuntimeError(runtime::ErrorNumber::InvalidArgument);
     return *printer;
+  }
+
+  [[nodiscard]] std::optional<std::vector<std::u16string>> AskOptions(
+      std::u16string_view title, const std::vector<platform::OptionEntry>& entries) override {
+    askedOptions.push_back({std::u16string(title), entries});
+    if (cancelOptions) return std::nullopt;
+    if (!options.empty()) return options;
+    std::vector<std::u16string> offered;
+    for (const platform::OptionEntry& entry : entries) offered.push_back(entry.text);
+    return offered;
   }
 
   void Warn(std::u16string_view text) override { warnings.emplace_back(text); }

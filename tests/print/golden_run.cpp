@@ -45,7 +45,30 @@ class LoggedPrompts : public fakes::ScriptedPrompts {
     log_ += ": " + (printer ? Narrow(*printer) : "fails") + "\n";
     return ScriptedPrompts::ChoosePrinter(title, text, names);
   }
+  std::optional<std::vector<std::u16string>> AskOptions(
+      std::u16string_view title, const std::vector<platform::OptionEntry>& entries) override {
+    log_ += "options \"" + Narrow(title) + "\"";
+    for (const auto& entry : entries) log_ += "|" + Narrow(entry.label) + "=" + Narrow(entry.text);
+    const auto texts = ScriptedPrompts::AskOptions(title, entries);
+    log_ += texts ? ":" : ": cancelled";
+    for (const auto& text : texts.value_or(std::vector<std::u16string>())) log_ += " " + Narrow(text);
+    log_ += "\n";
+    return texts;
+  }
   void Warn(std::u16string_view text) override { log_ += "warn " + Narrow(text) + "\n"; }
+
+ private:
+  std::string& log_;
+};
+
+class LoggedSettings : public fakes::FakeSettings {
+ public:
+  explicit LoggedSettings(std::string& log) : log_(log) {}
+
+  void Save(std::u16string_view section, std::u16string_view key, std::u16string_view text) override {
+    FakeSettings::Save(section, key, text);
+    log_ += "save " + Narrow(section) + "\\" + Narrow(key) + "=" + Narrow(text) + "\n";
+  }
 
  private:
   std::string& log_;
@@ -107,6 +130,29 @@ class Run {
     const auto [name, value] = Cut(rest, '=');
     data::AñadirCampoTabla(job_, {u"TABLA", Wide(name), Wide(value), Integer<std::int16_t>(kind)});
   }
+  void AddRow(std::string_view cells) {
+    data::Cells& row = job_.rows.emplace_back().emplace();
+    for (const std::u16string& cell : runtime::Split(Wide(cells), u"|")) {
+      const std::string text = Narrow(cell);
+      const auto [kind, rest] = Cut(text, ' ');
+      const auto [name, value] = Cut(rest, '=');
+      row.push_back({u"TABLA", Wide(name), Wide(value), Integer<std::int16_t>(kind)});
+    }
+  }
+  void AddRows(std::string_view argument) {
+    const auto [count, cell] = Cut(argument, ' ');
+    for (int row = 1; row <= Integer<int>(count); ++row)
+      AddRow("0 " + std::string(cell) + " " + std::to_string(row));
+  }
+  void AddGap(std::string_view) { job_.rows.emplace_back(); }
+  void Set(std::string_view argument) {
+    const auto [key, text] = Cut(argument, '=');
+    settings_.values[{u"Etiquetas", Wide(key)}] = Wide(text);
+  }
+  void AnswerOptions(std::string_view answers) {
+    prompts_.cancelOptions = answers == "cancel";
+    prompts_.options = runtime::Split(Wide(answers), u"|");
+  }
   void AddPicture(std::string_view argument) {
     const auto [name, size] = Cut(argument, '=');
     files_.Replace(modelFile_.folder + Wide(name), "PICTURE " + std::string(size));
@@ -129,11 +175,17 @@ class Run {
   }
   void Fail(std::string_view argument) {
     const auto [what, which] = Cut(argument, ' ');
-    (what == "end" ? printers_.faults.end : printers_.faults.text) = Integer<int>(which);
+    fakes::PrinterFaults& faults = printers_.faults;
+    (what == "end" ? faults.end : what == "page" ? faults.page : faults.text) = Integer<int>(which);
   }
   void Print(std::string_view) {
     Act("print", [this](const Environment& environment) {
       return print::Print(job_, environment, FindCurrentModel(job_, environment));
+    });
+  }
+  void PrintLabels(std::string_view) {
+    Act("labels", [this](const Environment& environment) {
+      return print::PrintLabels(job_, environment, FindCurrentModel(job_, environment));
     });
   }
   void Draw(std::string_view) {
@@ -152,6 +204,7 @@ class Run {
   LoggedSpooler spooler_{log_};
   fakes::FakePictures pictures_{files_, log_};
   LoggedPrompts prompts_{log_};
+  LoggedSettings settings_{log_};
   fakes::FixedClock clock_;
   model::ModelFile modelFile_;
   PaperFormState paperForms_;
@@ -160,20 +213,16 @@ class Run {
 };
 
 const Run::Handler Run::kHandlers[] = {
-    {"#", &Run::Remark},
-    {"locale", &Run::SetLocale},
-    {"model", &Run::SetModel},
-    {"field", &Run::SetField},
-    {"cell", &Run::AddCell},
-    {"picture", &Run::AddPicture},
-    {"printers", &Run::SetPrinters},
-    {"forms", &Run::SetForms},
-    {"no", &Run::NoForms},
-    {"answer", &Run::Answer},
-    {"choose", &Run::Choose},
-    {"fail", &Run::Fail},
-    {"print", &Run::Print},
-    {"draw", &Run::Draw},
+    {"#", &Run::Remark},           {"locale", &Run::SetLocale},
+    {"model", &Run::SetModel},     {"field", &Run::SetField},
+    {"cell", &Run::AddCell},       {"row", &Run::AddRow},
+    {"rows", &Run::AddRows},       {"gap", &Run::AddGap},
+    {"setting", &Run::Set},        {"options", &Run::AnswerOptions},
+    {"picture", &Run::AddPicture}, {"printers", &Run::SetPrinters},
+    {"forms", &Run::SetForms},     {"no", &Run::NoForms},
+    {"answer", &Run::Answer},      {"choose", &Run::Choose},
+    {"fail", &Run::Fail},          {"print", &Run::Print},
+    {"labels", &Run::PrintLabels}, {"draw", &Run::Draw},
 };
 
 void Run::Command(std::string_view line) {
@@ -188,8 +237,8 @@ template <typename Action>
 void Run::Act(std::string_view name, Action action) {
   log_.append("> ").append(name).append("\n");
   try {
-    const Environment environment{files_, printers_,  spooler_,    pictures_, prompts_,
-                                  clock_, modelFile_, paperForms_, locale_};
+    const Environment environment{files_,    printers_, spooler_,   pictures_,   prompts_,
+                                  settings_, clock_,    modelFile_, paperForms_, locale_};
     log_ += action(environment) ? "= True\n" : "= False\n";
   } catch (const runtime::RuntimeError& error) {
     log_ += "= error " + std::to_string(error.number()) + " " + Narrow(error.description()) + "\n";

@@ -14,8 +14,15 @@
 //   choose A                   to the choice of a printer; without a name it is cancelled
 //   choose fails               the choice cannot be shown
 //   fail text 3                which text of each printer fails, the opening blank of a job counted
+//   fail page 1                which new page of each printer fails
 //   fail end 1                 which end of a job fails
-//   print, draw                the actions, each logged with its outcome
+//   row 0 NOMBRE=Ana|3 IMPORTE=9  the next row of the table: the cells with their type codes
+//   rows 17 NOMBRE=Fila           that many rows, each with one cell: "Fila 1", "Fila 2", ...
+//   gap                        a row that is never filled
+//   setting Ancho=03           a setting of label sheets
+//   options 3|7|0|0|21|29      the answers to the label options; as offered where nothing is said
+//   options cancel             they are cancelled
+//   print, labels, draw                the actions, each logged with its outcome
 
 #include <string>
 #include <string_view>

@@ -160,8 +160,8 @@ struct MistypingUser : fakes::ScriptedPrompts {
 
 TEST_F(PrinterChoice, AnAnswerThatIsNotInstalledIsAskedForAgainByItsName) {
   MistypingUser user;
-  Environment other{files, printers,  spooler,    pictures,          user,
-                    clock, modelFile, paperForms, environment.locale};
+  Environment other{files,    printers, spooler,   pictures,   user,
+                    settings, clock,    modelFile, paperForms, environment.locale};
   EXPECT_TRUE(print::Print(job, other, Model()));
   EXPECT_THAT(user.printerPrompts,
               ElementsAre(u"Error Impresora|No existe la impresora (Impresora Vieja) Elegir impresora",

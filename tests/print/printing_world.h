@@ -7,8 +7,10 @@
 
 #include "data/fields.h"
 #include "print/engine.h"
+#include "print/label_sheets.h"
 #include "print/model_choice.h"
 #include "tests/fakes/fake_pictures.h"
+#include "tests/fakes/fake_settings.h"
 #include "tests/fakes/fixed_clock.h"
 #include "tests/fakes/memory_files.h"
 #include "tests/fakes/recording_printer.h"
@@ -24,12 +26,13 @@ struct PrintingWorld {
   fakes::ScriptedSpooler spooler;
   fakes::FakePictures pictures{files, log};
   fakes::ScriptedPrompts prompts;
+  fakes::FakeSettings settings;
   fakes::FixedClock clock;
   model::ModelFile modelFile;
   PaperFormState paperForms;
   data::PrintJob job;
-  Environment environment{
-      files, printers, spooler, pictures, prompts, clock, modelFile, paperForms, runtime::Locale::Spanish()};
+  Environment environment{files,    printers, spooler,   pictures,   prompts,
+                          settings, clock,    modelFile, paperForms, runtime::Locale::Spanish()};
 
   PrintingWorld() {
     modelFile.SetName(u"C:\\Modelos\\fact.xml");
@@ -47,6 +50,7 @@ struct PrintingWorld {
 
   [[nodiscard]] model::ModelTexts Model() const { return FindCurrentModel(job, environment); }
   bool Print() { return print::Print(job, environment, Model()); }
+  bool PrintLabels() { return print::PrintLabels(job, environment, Model()); }
   bool Draw(platform::Surface& surface) { return print::Draw(job, environment, Model(), surface); }
 
   // What is drawn without a printer, or the number of the error.

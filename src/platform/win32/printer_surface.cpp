@@ -64,6 +64,11 @@ void GdiPrinterSurface::PaintPicture(const Picture& picture, Point topLeft) {
   if (!canvas_.Paint(bitmap, topLeft)) Throw(ErrorNumber::PrinterError);
 }
 
+void GdiPrinterSurface::NewPage() {
+  if (!inJob_ || !canvas_.DrawTexts() || EndPage(dc_.Get()) <= 0 || StartPage(dc_.Get()) <= 0)
+    Throw(ErrorNumber::PrinterError);
+}
+
 void GdiPrinterSurface::EndDoc() {
   if (!inJob_) return;  // nothing was printed, so there is no page
   const bool drawn = canvas_.DrawTexts();

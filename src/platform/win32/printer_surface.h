@@ -27,6 +27,7 @@ class GdiPrinterSurface : public PrinterSurface {
 
   [[nodiscard]] std::u16string DeviceName() const override { return deviceName_; }
   void SetPaper(const Paper& paper) override;
+  void NewPage() override;
   void EndDoc() override;
 
  private:

@@ -7,6 +7,7 @@ namespace {
 
 constexpr int kAnswerId = 101;
 constexpr int kPrintersId = 102;
+constexpr int kFirstOptionId = 200;
 
 void AddOkAndCancel(DialogLayout& layout) {
   layout.AddButton(IDOK, u"Aceptar");
@@ -66,6 +67,39 @@ class PrinterDialog : public Dialog {
   int choice_ = -1;
 };
 
+class OptionsDialog : public Dialog {
+ public:
+  OptionsDialog(std::u16string_view title, const std::vector<OptionEntry>& entries)
+      : Dialog(Layout(title, entries)), texts_(entries.size()) {}
+
+  [[nodiscard]] std::optional<std::vector<std::u16string>> Answers() {
+    if (Run() != IDOK) return std::nullopt;
+    return std::move(texts_);
+  }
+
+ protected:
+  void Command(int id, int notification) override {
+    if (id == IDOK)
+      for (std::size_t i = 0; i < texts_.size(); ++i)
+        texts_[i] = TextOf(kFirstOptionId + static_cast<int>(i));
+    Dialog::Command(id, notification);
+  }
+
+ private:
+  static DialogLayout Layout(std::u16string_view title, const std::vector<OptionEntry>& entries) {
+    DialogLayout layout(title);
+    int id = kFirstOptionId;
+    for (const OptionEntry& entry : entries) {
+      layout.AddLabel(entry.label);
+      layout.AddEntry(id++, entry.text);
+    }
+    AddOkAndCancel(layout);
+    return layout;
+  }
+
+  std::vector<std::u16string> texts_;
+};
+
 }  // namespace
 
 // The entry is as wide as the dialog, whatever the length of the field's name.
@@ -79,6 +113,11 @@ std::u16string Win32Prompts::ChoosePrinter(std::u16string_view title, std::u16st
   const int choice = PrinterDialog(title, text, deviceNames).Choice();
   if (choice < 0 || static_cast<std::size_t>(choice) >= deviceNames.size()) return {};
   return deviceNames[static_cast<std::size_t>(choice)];
+}
+
+std::optional<std::vector<std::u16string>> Win32Prompts::AskOptions(std::u16string_view title,
+                                                                    const std::vector<OptionEntry>& entries) {
+  return OptionsDialog(title, entries).Answers();
 }
 
 void Win32Prompts::Warn(std::u16string_view text) { ShowWarning(kApplicationTitle, text); }

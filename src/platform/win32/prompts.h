@@ -12,6 +12,8 @@ class Win32Prompts : public Prompts {
                                         std::u16string_view defaultAnswer) override;
   [[nodiscard]] std::u16string ChoosePrinter(std::u16string_view title, std::u16string_view text,
                                              const std::vector<std::u16string>& deviceNames) override;
+  [[nodiscard]] std::optional<std::vector<std::u16string>> AskOptions(
+      std::u16string_view title, const std::vector<OptionEntry>& entries) override;
   void Warn(std::u16string_view text) override;
 };
 

@@ -139,6 +139,27 @@ TEST_F(PrinterPages, OfABrokenPrinterEndInError482) {
   EXPECT_RUNTIME_ERROR(482, printer->EndDoc());
 }
 
+TEST_F(PrinterPages, KeepTheFontOnTheNextPageOfAJob) {
+  const auto printer = printers.Open(kA4);
+  const Font font{u"Times New Roman", 12, true, false, true};
+  printer->SetFont(font);
+  printer->PrintText({0, 0}, u"uno");
+  const double width = printer->Measure(u"Señor 123").Width();
+  printer->NewPage();
+  EXPECT_EQ(printer->CurrentFont(), font);
+  EXPECT_EQ(printer->Measure(u"Señor 123").Width(), width);
+  printer->PrintText({0, 0}, u"dos");
+  printer->EndDoc();
+}
+
+TEST_F(PrinterPages, ANewPageNeedsAJob) {
+  const auto printer = printers.Open(kA4);
+  EXPECT_RUNTIME_ERROR(482, printer->NewPage());
+  printer->PrintText({0, 0}, u"uno");
+  printer->EndDoc();
+  EXPECT_RUNTIME_ERROR(482, printer->NewPage());
+}
+
 TEST_F(PrinterPages, WithoutAnythingPrintedAreNoJob) { printers.Open(kBroken)->EndDoc(); }
 
 TEST_F(PrinterPages, LeaveNoGdiObjectsBehind) {

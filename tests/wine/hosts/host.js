@@ -69,8 +69,6 @@ expect("printed", "none", errorOf(function () { form.ImprimirModelo(); }));
 expect("not cancelled", false, form.ImpresionAnulada);
 form.NumeroModelo = 2;
 expect("printer failure", 482, numberOf(function () { form.ImprimirModelo(); }));
-form.NumeroModelo = 3;
-expect("label sheet", 445, numberOf(function () { form.ImprimirModelo(); }));
 expect("host's Error", 12, form.Error);
 expect("host's ErrDescription", "de la casa \u00F1", form.ErrDescription);
 
