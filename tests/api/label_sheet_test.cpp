@@ -7,6 +7,7 @@
 #include <cstdio>
 
 #include "tests/api/component.h"
+#include "tests/api/record_object.h"
 #include "tests/platform/win32/window_driver.h"
 
 namespace qm::tests {
@@ -17,6 +18,9 @@ using platform::win32::WindowDriver;
 constexpr char kModels[] =
     "<Modelos><Modelo Numero=\"1\" Width=\"5670\" Height=\"2100\" Copias=\"1\" EsEtiqueta=\"1\">"
     "<Campo Key=\"1\"><Descripcion>#Etiqueta</Descripcion><Top>600</Top><Left>600</Left><Width>3000</Width>"
+    "<Height>300</Height></Campo></Modelo>"
+    "<Modelo Numero=\"2\" Width=\"5670\" Height=\"2100\" Copias=\"1\" EsEtiqueta=\"1\" "
+    "Printer=\"Impresora Averiada\"><Campo><Descripcion>CAMPO (CLIEN)</Descripcion><Width>3000</Width>"
     "<Height>300</Height></Campo></Modelo></Modelos>";
 
 struct LabelModel : testing::Test {
@@ -57,6 +61,19 @@ TEST_F(LabelModel, CancelledOptionsAbandonThePrint) {
 
 TEST_F(LabelModel, WithoutRowsThePrintIsCompleteAndPrintsNothing) {
   EXPECT_EQ(PrintedWith(IDOK), S_OK);
+  EXPECT_FALSE(Abandoned());
+}
+
+// A printer that fails at the end of every job tells whether there was one.
+TEST_F(LabelModel, TheRowsThatTheHostLoadedArePrinted) {
+  EXPECT_EQ(form->put_NumeroModelo(Value(2L)), S_OK);
+  EXPECT_EQ(PrintedWith(IDOK), S_OK) << "no rows, no job";
+
+  RecordObject records;
+  auto* const object = static_cast<IDispatch*>(&records);
+  auto* rows = reinterpret_cast<_QmFileControl2*>(object);
+  ASSERT_EQ(form->AsignarDatosTablaQmF2(&rows), S_OK);
+  EXPECT_EQ(PrintedWith(IDOK), RuntimeResult(482));
   EXPECT_FALSE(Abandoned());
 }
 
