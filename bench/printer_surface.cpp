@@ -12,33 +12,12 @@
 #include "bench/stopwatch.h"
 #include "platform/win32/printers.h"
 
-namespace {
-
-using namespace qm;
-
-void PrintRaw(const std::u16string& device, const bench::RawScene& scene) {
-  const platform::win32::OwnedDc dc(CreateDCW(L"WINSPOOL", platform::win32::Wide(device), nullptr, nullptr));
-  DOCINFOW document{};
-  document.cbSize = sizeof document;
-  document.lpszDocName = L"raw";
-  StartDocW(dc.Get(), &document);
-  StartPage(dc.Get());
-  scene.Draw(dc.Get());
-  EndPage(dc.Get());
-  EndDoc(dc.Get());
-}
-
-}  // namespace
-
 int wmain(int argc, wchar_t** argv) {
+  using namespace qm;
   platform::win32::Win32Printers printers;
   const std::u16string device =
       argc > 1 ? platform::win32::Text(argv[1]) : printers.OpenDefault()->DeviceName();
-  const int dotsPerInch = [&] {
-    const platform::win32::OwnedDc dc(
-        CreateDCW(L"WINSPOOL", platform::win32::Wide(device), nullptr, nullptr));
-    return GetDeviceCaps(dc.Get(), LOGPIXELSX);
-  }();
+  const int dotsPerInch = bench::DotsPerInch(device);
   const std::vector<bench::SceneField> scene = bench::Scene();
   const bench::RawScene naiveScene(scene, dotsPerInch, DEFAULT_QUALITY);
   bench::RawScene sortedScene(scene, dotsPerInch, DEFAULT_QUALITY);
@@ -49,8 +28,8 @@ int wmain(int argc, wchar_t** argv) {
     bench::Draw(*printer, scene);
     printer->EndDoc();
   };
-  const auto sorted = [&] { PrintRaw(device, sortedScene); };
-  const auto naive = [&] { PrintRaw(device, naiveScene); };
+  const auto sorted = [&] { bench::PrintRaw(device, sortedScene); };
+  const auto naive = [&] { bench::PrintRaw(device, naiveScene); };
   const std::vector<double> times = bench::FastestTurns(8, {surface, sorted, naive});
   std::printf("printer surface %.1f ms, plain calls sorted by font %.1f ms, ratio %.2f\n", times[0], times[1],
               times[0] / times[1]);

@@ -86,4 +86,24 @@ class RawScene {
   std::vector<std::size_t> order_;
 };
 
+[[nodiscard]] inline platform::win32::OwnedDc PrinterDc(const std::u16string& device) {
+  return platform::win32::OwnedDc(CreateDCW(L"WINSPOOL", platform::win32::Wide(device), nullptr, nullptr));
+}
+
+[[nodiscard]] inline int DotsPerInch(const std::u16string& device) {
+  return GetDeviceCaps(PrinterDc(device).Get(), LOGPIXELSX);
+}
+
+inline void PrintRaw(const std::u16string& device, const RawScene& scene) {
+  const platform::win32::OwnedDc dc = PrinterDc(device);
+  DOCINFOW document{};
+  document.cbSize = sizeof document;
+  document.lpszDocName = L"raw";
+  StartDocW(dc.Get(), &document);
+  StartPage(dc.Get());
+  scene.Draw(dc.Get());
+  EndPage(dc.Get());
+  EndDoc(dc.Get());
+}
+
 }  // namespace qm::bench

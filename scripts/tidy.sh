@@ -16,6 +16,7 @@ compiled() {
     /^[^ ].*#deps/ { if (source != "") print source, list; source = ""; list = "" }
     /^    / {
       file = substr($0, 5)
+      sub("^[.][.]/[.][.]/", root, file)  # a compiler cache may write paths relative to the build tree
       if (file !~ "^/") next
       if (index(file, root) != 1 || index(file, root "build/") == 1) next
       file = substr(file, length(root) + 1)

@@ -1,13 +1,15 @@
 #include "api/composition.h"
 
 #include "automation/com_call.h"
+#include "print/model_choice.h"
 
 namespace qm::api {
 
 bool Composition::Imprimir(data::PrintJob& job) {
   const print::Environment environment = NewEnvironment();
-  if (print::EsEtiqueta(job, environment)) automation::ThrowNotSupported();
-  return print::Print(job, environment);
+  const model::ModelTexts model = print::FindCurrentModel(job, environment);
+  if (print::EsEtiqueta(model)) automation::ThrowNotSupported();
+  return print::Print(job, environment, model);
 }
 
 print::Environment Composition::NewEnvironment() {

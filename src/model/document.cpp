@@ -4,9 +4,9 @@
 #include <charconv>
 #include <cstddef>
 #include <deque>
-#include <pugixml.hpp>
 #include <utility>
 
+#include "model/model_reader.h"
 #include "model/well_formed.h"
 #include "model/xml_text.h"
 #include "runtime/code_page.h"
@@ -16,20 +16,11 @@
 namespace qm::model {
 namespace {
 
-using pugi::xml_attribute;
-using pugi::xml_node;
 using runtime::ErrorNumber;
 using runtime::Locale;
 using runtime::RuntimeError;
 
 constexpr std::string_view kBlanks = " \t\r\n";
-
-// White space between elements is dropped; a leaf keeps its text even when it is nothing else.
-constexpr unsigned kParseOptions = pugi::parse_pi | pugi::parse_comments | pugi::parse_cdata |
-                                   pugi::parse_escapes | pugi::parse_eol | pugi::parse_wconv_attribute |
-                                   pugi::parse_ws_pcdata_single;
-
-std::string_view LocalName(std::string_view name) { return name.substr(name.find(':') + 1); }
 
 // ---- Lookup
 
@@ -45,64 +36,9 @@ std::optional<double> NumberOf(std::string_view text) {
   return value;
 }
 
-// An element parsed on its own.
-struct Element {
-  explicit Element(std::string_view bytes) : text(Utf8FromCodePage(bytes)) {
-    const auto result =
-        document.load_buffer_inplace(text.data(), text.size(), kParseOptions, pugi::encoding_utf8);
-    if (result.status == pugi::status_out_of_memory) throw RuntimeError(ErrorNumber::OutOfMemory);
-    if (!result) throw RuntimeError(ErrorNumber::ObjectNotSet);
-  }
-
-  std::string text;  // the nodes' texts lie in it
-  pugi::xml_document document;
-};
-
 std::optional<double> NumberOf(const XmlOutline::Child& child) {
   if (child.numero.find('&') == std::string_view::npos) return NumberOf(child.numero);
-  return NumberOf(std::string_view(Element(child.whole).document.first_child().attribute("Numero").value()));
-}
-
-// ---- Reading
-
-bool IsText(xml_node node) { return node.type() == pugi::node_pcdata || node.type() == pugi::node_cdata; }
-
-// The texts of an element and of the elements inside it, which are at most kMaxDepth deep.
-void CollectText(xml_node element, std::string& text) {
-  for (const xml_node child : element.children()) {
-    if (IsText(child)) {
-      text += child.value();
-    } else {
-      CollectText(child, text);
-    }
-  }
-}
-
-Property ElementProperty(xml_node element) {
-  std::u16string name = runtime::FromUtf8(LocalName(element.name()));
-  const xml_node only = element.first_child();
-  if (only && IsText(only) && !only.next_sibling()) return {std::move(name), runtime::FromUtf8(only.value())};
-  std::string text;
-  CollectText(element, text);
-  return {std::move(name), runtime::FromUtf8(text)};
-}
-
-std::vector<Property> FieldProperties(xml_node campo) {
-  std::vector<Property> properties;
-  for (const xml_node child : campo.children())
-    if (child.type() == pugi::node_element) properties.push_back(ElementProperty(child));
-  return properties;
-}
-
-ModelTexts ReadModel(xml_node modelo) {
-  ModelTexts texts;
-  for (const xml_attribute attribute : modelo.attributes())
-    texts.attributes.push_back(
-        {runtime::FromUtf8(LocalName(attribute.name())), runtime::FromUtf8(attribute.value())});
-  for (const xml_node child : modelo.children())
-    if (child.type() == pugi::node_element && LocalName(child.name()) == "Campo")
-      texts.fields.push_back(FieldProperties(child));
-  return texts;
+  return NumberOf(std::string_view(AttributeOf(child.whole, "Numero")));
 }
 
 // ---- Writing
@@ -113,7 +49,8 @@ void AppendAttribute(std::string& out, std::string_view name, std::u16string_vie
   out += '"';
 }
 
-void AppendChild(std::string& out, std::string_view name, std::u16string_view text) {
+void AppendChild(std::string& out, FieldElement element, std::u16string_view text) {
+  const std::string_view name = NameOf(element);
   out.append("<").append(name);
   if (text.empty()) {
     out += "/>";
@@ -135,18 +72,18 @@ void AppendField(std::string& out, const FieldToSave& field, const Locale& local
   out += "<Campo";
   AppendAttribute(out, "Key", runtime::ToText(field.key));
   out += '>';
-  AppendChild(out, "Descripcion", field.descripcion);
-  AppendChild(out, "Top", runtime::ToText(field.top, locale));
-  AppendChild(out, "Left", runtime::ToText(field.left, locale));
-  AppendChild(out, "Width", runtime::ToText(field.width, locale));
-  AppendChild(out, "Height", runtime::ToText(field.height, locale));
-  AppendChild(out, "ForeColor", runtime::ToText(field.foreColor));
-  AppendChild(out, "Bold", runtime::ToText(field.bold, locale));
-  AppendChild(out, "FontSize", runtime::ToText(field.fontSize, locale));
-  AppendChild(out, "FontItalic", runtime::ToText(field.fontItalic, locale));
-  AppendChild(out, "Alignment", runtime::ToText(field.alignment));
-  AppendChild(out, "Underline", runtime::ToText(field.underline, locale));
-  AppendChild(out, "FontName", field.fontName);
+  AppendChild(out, FieldElement::Descripcion, field.descripcion);
+  AppendChild(out, FieldElement::Top, runtime::ToText(field.top, locale));
+  AppendChild(out, FieldElement::Left, runtime::ToText(field.left, locale));
+  AppendChild(out, FieldElement::Width, runtime::ToText(field.width, locale));
+  AppendChild(out, FieldElement::Height, runtime::ToText(field.height, locale));
+  AppendChild(out, FieldElement::ForeColor, runtime::ToText(field.foreColor));
+  AppendChild(out, FieldElement::Bold, runtime::ToText(field.bold, locale));
+  AppendChild(out, FieldElement::FontSize, runtime::ToText(field.fontSize, locale));
+  AppendChild(out, FieldElement::FontItalic, runtime::ToText(field.fontItalic, locale));
+  AppendChild(out, FieldElement::Alignment, runtime::ToText(field.alignment));
+  AppendChild(out, FieldElement::Underline, runtime::ToText(field.underline, locale));
+  AppendChild(out, FieldElement::FontName, field.fontName);
   out += "</Campo>";
 }
 
@@ -238,7 +175,7 @@ std::optional<ModelTexts> ModelDocument::Find(std::int32_t numero) const {
   if (!tree_->parsed) throw RuntimeError(ErrorNumber::ObjectNotSet);
   const auto found = tree_->Find(numero);
   if (found == tree_->pieces.end()) return std::nullopt;
-  return ReadModel(Element(found->bytes).document.first_child());
+  return ReadModel(found->bytes);
 }
 
 void ModelDocument::Replace(const ModelToSave& model, const Locale& locale) {

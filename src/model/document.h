@@ -15,20 +15,25 @@
 #include <string_view>
 #include <vector>
 
+#include "model/field_elements.h"
 #include "runtime/locale.h"
 
 namespace qm::model {
 
-// An attribute or a child element with its text, as written.
+// An attribute, and a child element of a `Campo`, with its text as written.
 struct Property {
   std::u16string name;
+  std::u16string text;
+};
+struct FieldText {
+  FieldElement element{};
   std::u16string text;
 };
 
 // One `Modelo` as it stands in the file, in document order.
 struct ModelTexts {
   std::vector<Property> attributes;
-  std::vector<std::vector<Property>> fields;  // one list of child elements for each `Campo`
+  std::vector<std::vector<FieldText>> fields;  // for each `Campo` the child elements that the format knows
 
   [[nodiscard]] std::u16string_view Attribute(std::u16string_view name) const;  // "" when missing
 };

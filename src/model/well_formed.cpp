@@ -155,12 +155,12 @@ class Scanner {
   }
 
   bool Markup() {
+    if (Is(kNameStart)) return StartTag();
     if (Take("/")) return EndTag();
     if (Take("?")) return Instruction(false);
     if (Take("!--")) return Comment();
     std::string_view ignored;
-    if (Take("![CDATA[")) return TakeUntil("]]>", ignored);
-    return StartTag();
+    return Take("![CDATA[") && TakeUntil("]]>", ignored);
   }
 
   // After the "<".
@@ -211,6 +211,7 @@ class Scanner {
       if (name == "Numero") numero_ = value;
       attributes_.push_back(name);
     }
+    if (attributes_.size() < 2) return true;
     std::sort(attributes_.begin(), attributes_.end());
     return std::adjacent_find(attributes_.begin(), attributes_.end()) == attributes_.end();
   }

@@ -1,7 +1,6 @@
 #include "model/xml_text.h"
 
 #include <algorithm>
-#include <array>
 #include <cstddef>
 #include <cstdint>
 
@@ -11,18 +10,6 @@ namespace qm::model {
 namespace {
 
 bool IsAscii(char byte) { return static_cast<std::uint8_t>(byte) < 0x80; }
-
-const std::array<std::string, 256>& Utf8OfBytes() {
-  static const auto texts = [] {
-    std::array<std::string, 256> table;
-    for (std::size_t byte = 0; byte < table.size(); ++byte) {
-      const char16_t letter = runtime::FromByte(static_cast<std::uint8_t>(byte));
-      table[byte] = runtime::ToUtf8(std::u16string_view(&letter, 1));
-    }
-    return table;
-  }();
-  return texts;
-}
 
 bool IsForbidden(char16_t unit) {
   return (unit < 0x20 && unit != u'\t' && unit != u'\n' && unit != u'\r') || unit >= 0xFFFE;
@@ -65,14 +52,16 @@ bool IsTrailing(char16_t unit) { return (unit & 0xFC00) == 0xDC00; }
 }  // namespace
 
 std::string Utf8FromCodePage(std::string_view bytes) {
-  const auto& utf8 = Utf8OfBytes();
   std::string text;
   text.reserve(bytes.size() + bytes.size() / 16);
-  for (auto at = bytes.begin(); at != bytes.end();) {
-    const auto run = std::find_if_not(at, bytes.end(), IsAscii);
-    text.append(at, run);
-    at = run;
-    for (; at != bytes.end() && !IsAscii(*at); ++at) text += utf8[static_cast<std::uint8_t>(*at)];
+  while (!bytes.empty()) {
+    const auto ascii =
+        static_cast<std::size_t>(std::find_if_not(bytes.begin(), bytes.end(), IsAscii) - bytes.begin());
+    text += bytes.substr(0, ascii);
+    if (ascii == bytes.size()) break;
+    const char16_t letter = runtime::FromByte(static_cast<std::uint8_t>(bytes[ascii]));
+    text += runtime::ToUtf8(std::u16string_view(&letter, 1));
+    bytes.remove_prefix(ascii + 1);
   }
   return text;
 }

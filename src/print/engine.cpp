@@ -3,7 +3,6 @@
 #include "data/value_lookup.h"
 #include "print/field_printer.h"
 #include "print/field_reader.h"
-#include "print/model_choice.h"
 #include "print/page_settings.h"
 #include "print/printer_page.h"
 #include "runtime/strings.h"
@@ -25,8 +24,8 @@ class Composition {
   }
 
   void PrintFields(std::int16_t copy) {
-    for (const auto& children : model_.fields) {
-      ReadField(children, locale_, field_);
+    for (const auto& elements : model_.fields) {
+      ReadField(elements, locale_, field_);
       std::int16_t kind = data::kPlainText;
       const std::u16string value = lookup_.ObtenerValor(field_.descripcion, copy, kind);
       const platform::Point topLeft{static_cast<double>(field_.left), static_cast<double>(field_.top)};
@@ -44,12 +43,11 @@ class Composition {
 
 }  // namespace
 
-bool EsEtiqueta(const data::PrintJob& job, const Environment& environment) {
-  return runtime::Trim(FindCurrentModel(job, environment).Attribute(u"EsEtiqueta")) == u"1";
+bool EsEtiqueta(const model::ModelTexts& model) {
+  return runtime::Trim(model.Attribute(u"EsEtiqueta")) == u"1";
 }
 
-bool Print(data::PrintJob& job, const Environment& environment) {
-  const model::ModelTexts model = FindCurrentModel(job, environment);
+bool Print(data::PrintJob& job, const Environment& environment, const model::ModelTexts& model) {
   const auto settings = ReadPageSettings(model, job, environment, Output::Printer);
   if (!settings) return false;
   if (settings->copies < 1) return true;  // also for a model that does not say how many
@@ -65,8 +63,8 @@ bool Print(data::PrintJob& job, const Environment& environment) {
   return true;
 }
 
-bool Draw(data::PrintJob& job, const Environment& environment, platform::Surface& surface) {
-  const model::ModelTexts model = FindCurrentModel(job, environment);
+bool Draw(data::PrintJob& job, const Environment& environment, const model::ModelTexts& model,
+          platform::Surface& surface) {
   const auto settings = ReadPageSettings(model, job, environment, Output::Drawing);
   if (!settings) return false;
 

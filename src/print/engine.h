@@ -1,7 +1,8 @@
 #pragma once
-// The print engine: composes one print model with the data of a print job.
+// The print engine: composes one print model with the data of a print job. An action finds its model once
+// (see model_choice.h) and hands it to whatever it needs of these.
 // Units:  twips.
-// Errors: 50100, 50101 and 50102 for a model that is not there; errors of field texts and values as they are.
+// Errors: 482 when the printer fails; errors of field texts and values as they are.
 
 #include "data/print_job.h"
 #include "model/model_file.h"
@@ -29,13 +30,14 @@ struct Environment {
   runtime::Locale locale;
 };
 
-// Whether the job's current model is a sheet of labels.
-[[nodiscard]] bool EsEtiqueta(const data::PrintJob& job, const Environment& environment);
+// Whether the model is a sheet of labels.
+[[nodiscard]] bool EsEtiqueta(const model::ModelTexts& model);
 
 // Prints every copy, each as a print job of its own. False when the user ended it early.
-[[nodiscard]] bool Print(data::PrintJob& job, const Environment& environment);
+[[nodiscard]] bool Print(data::PrintJob& job, const Environment& environment, const model::ModelTexts& model);
 
 // Draws the model once, without copy numbering, on a surface that is no printer.
-[[nodiscard]] bool Draw(data::PrintJob& job, const Environment& environment, platform::Surface& surface);
+[[nodiscard]] bool Draw(data::PrintJob& job, const Environment& environment, const model::ModelTexts& model,
+                        platform::Surface& surface);
 
 }  // namespace qm::print

@@ -76,12 +76,12 @@ void FieldPrinter::PrintWrapped(const FieldState& field, platform::Point at, std
 void FieldPrinter::PrintPicture(const FieldState& field, platform::Point at, std::u16string_view data) {
   std::u16string path = files_.ScratchFolder();
   path += kScratchPicture;
-  files_.Replace(path, runtime::ToBytes(data));
-  const auto picture = pictures_.Load(path);
+  const std::string bytes = runtime::ToBytes(data);
+  files_.Replace(path, bytes);
+  const auto picture = pictures_.Decode(bytes);  // by now the file may be another host's
   const auto scaled = pictures_.Scaled(*picture, BoxPixels(field.width, picture->WidthPixels()),
                                        BoxPixels(field.height, picture->HeightPixels()));
-  pictures_.PutOnClipboard(*scaled);  // and stays there afterwards
-  surface_.PaintPicture(*pictures_.TakeFromClipboard(), at);
+  surface_.PaintPicture(*pictures_.ThroughClipboard(*scaled), at);  // and it stays there afterwards
 }
 
 // The line's width holds for its text as it was fitted; it is measured again only where the text changes

@@ -24,41 +24,52 @@ void ReadFontSize(FieldState& field, Text text, const Locale& locale) {
   if (points > 0) field.font.sizePoints = std::min(points, kLargestFontSize);
 }
 
-struct Element {
-  Text name;
-  void (*read)(FieldState& field, Text text, const Locale& locale);
-};
-
-// In the order in which the designer writes them.
-constexpr Element kElements[] = {
-    {u"Descripcion", [](FieldState& field, Text text, const Locale&) { field.descripcion = text; }},
-    {u"Top", [](FieldState& field, Text text, const Locale&) { field.top = LeadingInteger(text); }},
-    {u"Left", [](FieldState& field, Text text, const Locale&) { field.left = LeadingInteger(text); }},
-    {u"Width", [](FieldState& field, Text text, const Locale&) { field.width = LeadingInteger(text); }},
-    {u"Height",
-     [](FieldState& field, Text text, const Locale& locale) { field.height = runtime::CInt(text, locale); }},
-    {u"ForeColor", [](FieldState& field, Text text,
-                      const Locale& locale) { field.foreColor = runtime::CLng(text, locale); }},
-    {u"Bold", [](FieldState& field, Text text,
-                 const Locale& locale) { field.font.bold = text::ParseBoolean(text, locale); }},
-    {u"FontSize", ReadFontSize},
-    {u"FontItalic", [](FieldState& field, Text text,
-                       const Locale& locale) { field.font.italic = text::ParseBoolean(text, locale); }},
-    {u"Alignment",
-     [](FieldState& field, Text text, const Locale&) { field.alignment = LeadingInteger(text); }},
-    {u"Underline", [](FieldState& field, Text text,
-                      const Locale& locale) { field.font.underline = text::ParseBoolean(text, locale); }},
-    {u"FontName", [](FieldState& field, Text text, const Locale&) { field.font.name = text; }},
-};
+void Read(FieldState& field, model::FieldElement element, Text text, const Locale& locale) {
+  using enum model::FieldElement;
+  switch (element) {
+    case Descripcion:
+      field.descripcion = text;
+      break;
+    case Top:
+      field.top = LeadingInteger(text);
+      break;
+    case Left:
+      field.left = LeadingInteger(text);
+      break;
+    case Width:
+      field.width = LeadingInteger(text);
+      break;
+    case Height:
+      field.height = runtime::CInt(text, locale);
+      break;
+    case ForeColor:
+      field.foreColor = runtime::CLng(text, locale);
+      break;
+    case Bold:
+      field.font.bold = text::ParseBoolean(text, locale);
+      break;
+    case FontSize:
+      ReadFontSize(field, text, locale);
+      break;
+    case FontItalic:
+      field.font.italic = text::ParseBoolean(text, locale);
+      break;
+    case Alignment:
+      field.alignment = LeadingInteger(text);
+      break;
+    case Underline:
+      field.font.underline = text::ParseBoolean(text, locale);
+      break;
+    case FontName:
+      field.font.name = text;
+      break;
+  }
+}
 
 }  // namespace
 
-void ReadField(const std::vector<model::Property>& children, const Locale& locale, FieldState& field) {
-  for (const model::Property& child : children) {
-    const auto element = std::find_if(std::begin(kElements), std::end(kElements),
-                                      [&](const Element& known) { return known.name == child.name; });
-    if (element != std::end(kElements)) element->read(field, child.text, locale);
-  }
+void ReadField(const std::vector<model::FieldText>& elements, const Locale& locale, FieldState& field) {
+  for (const auto& [element, text] : elements) Read(field, element, text, locale);
 }
 
 }  // namespace qm::print

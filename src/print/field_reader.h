@@ -34,8 +34,8 @@ struct FieldState {
   std::optional<std::int32_t> foreColor;  // nothing: the surface's own
 };
 
-// Reads the child elements of a `Campo` into the field; unknown ones are skipped.
-void ReadField(const std::vector<model::Property>& children, const runtime::Locale& locale,
+// Reads what a `Campo` says into the field.
+void ReadField(const std::vector<model::FieldText>& elements, const runtime::Locale& locale,
                FieldState& field);
 
 }  // namespace qm::print

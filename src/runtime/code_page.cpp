@@ -1,6 +1,7 @@
 #include "runtime/code_page.h"
 
 #include <algorithm>
+#include <array>
 #include <cstddef>
 #include <iterator>
 
@@ -17,6 +18,13 @@ constexpr char16_t kOwnLetters[] = {
     0x90, u'‘', u'’', u'“', u'”', u'•', u'–', u'—', u'˜', u'™', u'š', u'›', u'œ', 0x9D, u'ž', u'Ÿ',
 };
 
+constexpr auto kLetters = [] {
+  std::array<char16_t, 256> letters{};
+  for (std::size_t byte = 0; byte < letters.size(); ++byte) letters[byte] = static_cast<char16_t>(byte);
+  std::ranges::copy(kOwnLetters, letters.begin() + kFirstOwn);
+  return letters;
+}();
+
 // The byte of a letter of the code page, or -1.
 int ExactByte(char16_t letter) {
   if (letter < kFirstOwn || (letter >= 0xA0 && letter <= 0xFF)) return letter;
@@ -27,10 +35,16 @@ int ExactByte(char16_t letter) {
 }  // namespace
 
 std::u16string FromBytes(std::string_view bytes) {
-  std::u16string text(bytes.size(), u'\0');
-  std::ranges::transform(bytes, text.begin(),
-                         [](char byte) { return FromByte(static_cast<std::uint8_t>(byte)); });
+  std::u16string text;
+  AppendBytes(text, bytes);
   return text;
+}
+
+void AppendBytes(std::u16string& text, std::string_view bytes) {
+  const std::size_t before = text.size();
+  text.resize(before + bytes.size());
+  std::ranges::transform(bytes, text.begin() + static_cast<std::ptrdiff_t>(before),
+                         [](char byte) { return kLetters[static_cast<std::uint8_t>(byte)]; });
 }
 
 std::string ToBytes(std::u16string_view text) {
@@ -42,10 +56,7 @@ std::string ToBytes(std::u16string_view text) {
 
 bool IsRepresentable(char16_t letter) { return ExactByte(letter) >= 0; }
 
-char16_t FromByte(std::uint8_t byte) {
-  const auto own = static_cast<std::size_t>(byte - kFirstOwn);
-  return byte >= kFirstOwn && own < std::size(kOwnLetters) ? kOwnLetters[own] : byte;
-}
+char16_t FromByte(std::uint8_t byte) { return kLetters[byte]; }
 
 std::uint8_t ToByte(char16_t letter) {
   const int exact = ExactByte(letter);

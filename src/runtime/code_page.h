@@ -9,6 +9,7 @@
 namespace qm::runtime {
 
 [[nodiscard]] std::u16string FromBytes(std::string_view bytes);
+void AppendBytes(std::u16string& text, std::string_view bytes);
 // A character that the code page lacks becomes its best fit, else "?".
 [[nodiscard]] std::string ToBytes(std::u16string_view text);
 [[nodiscard]] bool IsRepresentable(char16_t letter);

@@ -162,6 +162,7 @@ std::optional<double> ToDouble(std::string mantissa, int exponent) {
 }
 
 ReadNumber ReadWholeText(std::u16string_view text, const Locale& locale) {
+  if (const auto plain = PlainDigits(text)) return {.value = static_cast<double>(*plain)};
   return Reader(text, locale).Read();
 }
 

@@ -23,6 +23,19 @@ struct ReadNumber {
 // double; too small gives 0.
 [[nodiscard]] std::optional<double> ToDouble(std::string mantissa, int exponent);
 
+[[nodiscard]] constexpr bool IsDigit(char16_t letter) { return letter >= u'0' && letter <= u'9'; }
+
+// A text of digits alone, as most numbers of a print model are: nothing for more than nine of them.
+[[nodiscard]] constexpr std::optional<int> PlainDigits(std::u16string_view text) {
+  if (text.empty() || text.size() > 9) return std::nullopt;
+  int value = 0;
+  for (const char16_t letter : text) {
+    if (!IsDigit(letter)) return std::nullopt;
+    value = value * 10 + (letter - u'0');
+  }
+  return value;
+}
+
 // Adds a digit to an exponent, stopping short of overflow: anything beyond is out of range for a double.
 [[nodiscard]] constexpr int AppendExponentDigit(int exponent, int digit) {
   constexpr int kBeyondAnyDouble = 100'000'000;
@@ -37,8 +50,6 @@ struct ReadNumber {
   if (letter >= u'A' && letter <= u'F') digit = letter - u'A' + 10;
   return digit < radix ? digit : -1;
 }
-
-[[nodiscard]] constexpr bool IsDigit(char16_t letter) { return letter >= u'0' && letter <= u'9'; }
 
 // The radix of the letter after "&": 16 for H, 8 for O, else 0.
 [[nodiscard]] constexpr int RadixOf(char16_t letter) {

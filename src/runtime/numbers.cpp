@@ -102,6 +102,7 @@ Integer ToInteger(std::u16string_view text, const Locale& locale) {
 
 double Val(std::u16string_view text) {
   const auto isDropped = [](char16_t letter) { return letter == u' ' || letter == u'\t' || letter == u'\n'; };
+  if (const auto plain = PlainDigits(text)) return *plain;
   std::u16string packed(text);
   std::erase_if(packed, isDropped);
   return PrefixReader(packed).Read();

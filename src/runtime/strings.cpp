@@ -117,8 +117,7 @@ std::u16string UCase(std::u16string_view text) {
 }
 
 bool EqualFolded(std::u16string_view a, std::u16string_view b) {
-  return std::ranges::equal(
-      a, b, {}, [](char16_t letter) { return UCase(letter); }, [](char16_t letter) { return UCase(letter); });
+  return std::ranges::equal(a, b, [](char16_t x, char16_t y) { return x == y || UCase(x) == UCase(y); });
 }
 
 }  // namespace qm::runtime

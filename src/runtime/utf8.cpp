@@ -1,3 +1,4 @@
+#include <algorithm>
 #include <cstddef>
 #include <cstdint>
 
@@ -77,8 +78,11 @@ std::string ToUtf8(std::u16string_view text) {
 
 std::u16string FromUtf8(std::string_view bytes) {
   std::u16string text;
+  const auto ascii = std::find_if(bytes.begin(), bytes.end(), [](char byte) { return (byte & 0x80) != 0; });
+  text.assign(bytes.begin(), ascii);  // most texts are nothing else
+  if (ascii == bytes.end()) return text;
   text.reserve(bytes.size());
-  for (std::size_t at = 0; at < bytes.size();) {
+  for (auto at = static_cast<std::size_t>(ascii - bytes.begin()); at < bytes.size();) {
     const auto first = static_cast<std::uint8_t>(bytes[at++]);
     Lead lead = LeadOf(first);
     // The lead byte of n following bytes keeps 6 - n of its bits.

@@ -39,11 +39,12 @@ class FakePictures : public platform::Pictures {
     Write("load " + runtime::ToUtf8(path));
     const auto bytes = files_.Read(path);
     if (!bytes) throw runtime::RuntimeError(runtime::ErrorNumber::FileNotFound);
-    int width = 0;
-    int height = 0;
-    if (std::sscanf(bytes->c_str(), "PICTURE %dx%d", &width, &height) != 2)
-      throw runtime::RuntimeError(runtime::ErrorNumber::InvalidPicture);
-    return std::make_unique<FakePicture>(width, height);
+    return FromBytes(*bytes);
+  }
+
+  [[nodiscard]] std::unique_ptr<platform::Picture> Decode(std::string_view bytes) override {
+    Write("decode");
+    return FromBytes(std::string(bytes));
   }
 
   [[nodiscard]] std::unique_ptr<platform::Picture> Scaled(const platform::Picture& picture, int widthPixels,
@@ -53,17 +54,21 @@ class FakePictures : public platform::Pictures {
     return std::make_unique<FakePicture>(widthPixels, heightPixels);
   }
 
-  void PutOnClipboard(const platform::Picture& picture) override {
+  [[nodiscard]] std::unique_ptr<platform::Picture> ThroughClipboard(
+      const platform::Picture& picture) override {
     Write("clipboard " + Size(picture));
     clipboard_ = std::make_unique<FakePicture>(picture.WidthPixels(), picture.HeightPixels());
-  }
-
-  [[nodiscard]] std::unique_ptr<platform::Picture> TakeFromClipboard() override {
-    if (!clipboard_) throw runtime::RuntimeError(runtime::ErrorNumber::InputOutput);
     return std::make_unique<FakePicture>(clipboard_->WidthPixels(), clipboard_->HeightPixels());
   }
 
  private:
+  static std::unique_ptr<platform::Picture> FromBytes(const std::string& bytes) {
+    int width = 0;
+    int height = 0;
+    if (std::sscanf(bytes.c_str(), "PICTURE %dx%d", &width, &height) != 2)
+      throw runtime::RuntimeError(runtime::ErrorNumber::InvalidPicture);
+    return std::make_unique<FakePicture>(width, height);
+  }
   static std::string Size(const platform::Picture& picture) {
     return std::to_string(picture.WidthPixels()) + "x" + std::to_string(picture.HeightPixels());
   }

@@ -24,10 +24,10 @@ std::u16string AttributeA(std::string_view bytes, std::int32_t numero) {
   return model ? std::u16string(model->Attribute(u"A")) : u"-";
 }
 
-// The only child of the only field, of model 1 with this content.
+// The description of the only field, of model 1 with this content.
 std::u16string OnlyText(std::string_view content) {
-  const auto model = ModelDocument::Parse("<Modelos><Modelo Numero='1'><Campo><T>" + std::string(content) +
-                                          "</T></Campo></Modelo></Modelos>")
+  const auto model = ModelDocument::Parse("<Modelos><Modelo Numero='1'><Campo><Descripcion>" +
+                                          std::string(content) + "</Descripcion></Campo></Modelo></Modelos>")
                          .Find(1);
   return model->fields.at(0).at(0).text;
 }
@@ -48,10 +48,10 @@ TEST(FindingAModel, GivesItsAttributesAndFieldsInDocumentOrder) {
   EXPECT_EQ(model->Attribute(u"printer"), u"");
   ASSERT_EQ(model->fields.size(), 2U);
   ASSERT_EQ(model->fields[0].size(), 2U);
-  EXPECT_EQ(model->fields[0][0].name, u"Descripcion");
+  EXPECT_EQ(model->fields[0][0].element, FieldElement::Descripcion);
   EXPECT_EQ(model->fields[0][0].text, u"NOMBRE");
   EXPECT_EQ(model->fields[0][1].text, u"1440");
-  EXPECT_EQ(model->fields[1][0].name, u"Left");
+  EXPECT_EQ(model->fields[1][0].element, FieldElement::Left);
 }
 
 TEST(FindingAModel, TakesTheFirstOfANumber) {
@@ -160,7 +160,7 @@ TEST(Names, AreGivenWithoutTheirPrefix) {
           .Find(1);
   ASSERT_TRUE(model);
   EXPECT_FALSE(model->Attribute(u"A").empty());
-  EXPECT_EQ(model->fields.at(0).at(0).name, u"Top");
+  EXPECT_EQ(model->fields.at(0).at(0).element, FieldElement::Top);
 }
 
 TEST(WidthsOfModels, ReadTheSameWithCommaAndPoint) {

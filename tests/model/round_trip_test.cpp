@@ -59,7 +59,7 @@ void ExpectReadsAs(const ModelTexts& read, const ModelToSave& saved, const Local
   ASSERT_EQ(read.fields.size(), saved.fields.size());
   for (std::size_t i = 0; i < saved.fields.size(); ++i) {
     const FieldToSave& field = saved.fields[i];
-    const std::vector<Property>& texts = read.fields[i];
+    const std::vector<FieldText>& texts = read.fields[i];
     ASSERT_EQ(texts.size(), 12U);
     EXPECT_EQ(texts[0].text, field.descripcion);
     EXPECT_EQ(text::ParseNumber(texts[1].text, locale), field.top);

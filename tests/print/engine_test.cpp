@@ -46,10 +46,9 @@ TEST_F(ModelOfAPrintJob, AFileThatCannotBeParsedIsError91AndOneWithADeclarationH
   EXPECT_EQ(ErrorOf([&] { (void)Print(); }), 50102);
 }
 
-TEST_F(ModelOfAPrintJob, TheSameErrorsComeFromDrawingAndFromTheQuestionWhetherItIsASheetOfLabels) {
+TEST_F(ModelOfAPrintJob, TheSameErrorsComeFromDrawing) {
   fakes::RecordingSurface surface;
-  EXPECT_EQ(ErrorOf([&] { (void)Draw(job, environment, surface); }), 50100);
-  EXPECT_EQ(ErrorOf([&] { (void)EsEtiqueta(job, environment); }), 50100);
+  EXPECT_EQ(ErrorOf([&] { (void)Draw(surface); }), 50100);
   EXPECT_EQ(surface.Log(), "");
 }
 
@@ -115,7 +114,7 @@ TEST_F(ModelOfAPrintJob, AModelIsASheetOfLabelsWhenItsFlagSaysOne) {
   for (const auto& [attributes, expected] : cases) {
     SCOPED_TRACE(attributes);
     SetModel(attributes, "");
-    EXPECT_EQ(EsEtiqueta(job, environment), expected);
+    EXPECT_EQ(EsEtiqueta(Model()), expected);
   }
 }
 

@@ -11,15 +11,16 @@
 namespace qm::print {
 namespace {
 
+using model::FieldElement;
 using runtime::Locale;
 
 struct FieldTexts : testing::Test {
   FieldState field;
-  void Read(std::u16string element, std::u16string text, const Locale& locale = Locale::Spanish()) {
-    ReadField({{std::move(element), std::move(text)}}, locale, field);
+  void Read(FieldElement element, std::u16string text, const Locale& locale = Locale::Spanish()) {
+    ReadField({{element, std::move(text)}}, locale, field);
   }
-  int ErrorOfReading(std::u16string element, std::u16string text) {
-    return ErrorOf([&] { Read(std::move(element), std::move(text)); });
+  int ErrorOfReading(FieldElement element, std::u16string text) {
+    return ErrorOf([&] { Read(element, std::move(text)); });
   }
 };
 
@@ -28,10 +29,10 @@ TEST_F(FieldTexts, PositionsAreTheLeadingNumberRoundedHalfToEven) {
       {u"1440", 1440}, {u"1440.5", 1440}, {u"1441.5", 1442},  {u"1441,5", 1441},  {u"-20", -20},
       {u"", 0},        {u"arriba", 0},    {u"1 4 4 0", 1440}, {u"300 twips", 300}};
   for (const auto& [text, expected] : cases) {
-    Read(u"Top", text);
-    Read(u"Left", text);
-    Read(u"Width", text);
-    Read(u"Alignment", text);
+    Read(FieldElement::Top, text);
+    Read(FieldElement::Left, text);
+    Read(FieldElement::Width, text);
+    Read(FieldElement::Alignment, text);
     EXPECT_EQ(field.top, expected);
     EXPECT_EQ(field.left, expected);
     EXPECT_EQ(field.width, expected);
@@ -40,29 +41,30 @@ TEST_F(FieldTexts, PositionsAreTheLeadingNumberRoundedHalfToEven) {
 }
 
 TEST_F(FieldTexts, APositionBeyond16BitsIsAnOverflow) {
-  for (const char16_t* element : {u"Top", u"Left", u"Width", u"Height", u"Alignment"})
+  for (const auto element : {FieldElement::Top, FieldElement::Left, FieldElement::Width, FieldElement::Height,
+                             FieldElement::Alignment})
     EXPECT_EQ(ErrorOfReading(element, u"40000"), 6);
 }
 
 TEST_F(FieldTexts, HeightIsTheWholeTextInTheUsersLocale) {
-  Read(u"Height", u"1440,5");
+  Read(FieldElement::Height, u"1440,5");
   EXPECT_EQ(field.height, 1440);
-  Read(u"Height", u"1441,5");
+  Read(FieldElement::Height, u"1441,5");
   EXPECT_EQ(field.height, 1442);
-  Read(u"Height", u"1441.5", Locale::English());
+  Read(FieldElement::Height, u"1441.5", Locale::English());
   EXPECT_EQ(field.height, 1442);
-  EXPECT_EQ(ErrorOfReading(u"Height", u"alto"), 13);
-  EXPECT_EQ(ErrorOfReading(u"Height", u""), 13);
-  EXPECT_EQ(ErrorOfReading(u"Height", u"300 twips"), 13);
+  EXPECT_EQ(ErrorOfReading(FieldElement::Height, u"alto"), 13);
+  EXPECT_EQ(ErrorOfReading(FieldElement::Height, u""), 13);
+  EXPECT_EQ(ErrorOfReading(FieldElement::Height, u"300 twips"), 13);
 }
 
 TEST_F(FieldTexts, AColourIsAWholeNumberOrAnError) {
-  Read(u"ForeColor", u"255");
+  Read(FieldElement::ForeColor, u"255");
   EXPECT_EQ(field.foreColor, 255);
-  Read(u"ForeColor", u"-2147483640");
+  Read(FieldElement::ForeColor, u"-2147483640");
   EXPECT_EQ(field.foreColor, -2147483640);
-  EXPECT_EQ(ErrorOfReading(u"ForeColor", u"rojo"), 13);
-  EXPECT_EQ(ErrorOfReading(u"ForeColor", u"4294967295"), 6);
+  EXPECT_EQ(ErrorOfReading(FieldElement::ForeColor, u"rojo"), 13);
+  EXPECT_EQ(ErrorOfReading(FieldElement::ForeColor, u"4294967295"), 6);
 }
 
 TEST_F(FieldTexts, AFontSizeAbove600IsInHundredthsOfAPoint) {
@@ -70,15 +72,15 @@ TEST_F(FieldTexts, AFontSizeAbove600IsInHundredthsOfAPoint) {
                                                       {u"8.25", 8.25}, {u"600", 600},       {u"601", 6.01},
                                                       {u"65000", 650}, {u"999999999", 2160}};
   for (const auto& [text, expected] : cases) {
-    Read(u"FontSize", text);
+    Read(FieldElement::FontSize, text);
     EXPECT_EQ(field.font.sizePoints, expected);
   }
 }
 
 TEST_F(FieldTexts, ATextThatIsNoFontSizeLeavesTheFontAsLargeAsItWas) {
-  Read(u"FontSize", u"12");
+  Read(FieldElement::FontSize, u"12");
   for (const char16_t* text : {u"", u"grande", u"0", u"-8"}) {
-    Read(u"FontSize", text);
+    Read(FieldElement::FontSize, text);
     EXPECT_EQ(field.font.sizePoints, 12);
   }
 }
@@ -89,9 +91,9 @@ TEST_F(FieldTexts, StylesAreWordsOfTheUsersLocaleOrOfTheOtherOne) {
       {u"0", false},        {u"SI", false},    {u"", false},    {u"verdadero", true}};
   for (const Locale& locale : {Locale::Spanish(), Locale::English()}) {
     for (const auto& [text, expected] : cases) {
-      Read(u"Bold", text, locale);
-      Read(u"FontItalic", text, locale);
-      Read(u"Underline", text, locale);
+      Read(FieldElement::Bold, text, locale);
+      Read(FieldElement::FontItalic, text, locale);
+      Read(FieldElement::Underline, text, locale);
       EXPECT_EQ(field.font.bold, expected);
       EXPECT_EQ(field.font.italic, expected);
       EXPECT_EQ(field.font.underline, expected);
@@ -99,11 +101,10 @@ TEST_F(FieldTexts, StylesAreWordsOfTheUsersLocaleOrOfTheOtherOne) {
   }
 }
 
-TEST_F(FieldTexts, UnknownElementsAreSkippedAndTheLastOfARepeatedOneCounts) {
-  ReadField({{u"Color", u"x"}, {u"height", u"x"}, {u"Top", u"1"}, {u"Top", u"2"}, {u"FontName", u"Arial 9"}},
+TEST_F(FieldTexts, TheLastOfARepeatedElementCounts) {
+  ReadField({{FieldElement::Top, u"1"}, {FieldElement::Top, u"2"}, {FieldElement::FontName, u"Arial 9"}},
             Locale::Spanish(), field);
   EXPECT_EQ(field.top, 2);
-  EXPECT_EQ(field.height, 0);
   EXPECT_EQ(field.font.name, u"Arial 9");
 }
 
@@ -278,10 +279,25 @@ TEST_F(PictureFields, TheDataGoThroughTheScratchFileAndTheClipboardScaledToTheBo
   field.height = 760;
   Print(u"PICTURE 40x30", data::kPictureData);
   EXPECT_EQ(surface.Log(), "picture 100x51 px 1000,500\n");
-  EXPECT_EQ(pictures.Log(),
-            "load " + runtime::ToUtf8(ScratchPath()) + "\nscale 40x30 to 100x51\nclipboard 100x51\n");
+  EXPECT_EQ(pictures.Log(), "decode\nscale 40x30 to 100x51\nclipboard 100x51\n");
   EXPECT_EQ(files.Read(ScratchPath()), "PICTURE 40x30");
   ASSERT_NE(pictures.Clipboard(), nullptr);
+}
+
+// Another host of the same user writes its own picture to the same file.
+class FilesOfTwoHosts : public fakes::MemoryFiles {
+ public:
+  void Replace(std::u16string_view path, std::string_view) override {
+    MemoryFiles::Replace(path, "PICTURE 999x999");
+  }
+};
+
+TEST_F(PictureFields, TheFieldsOwnPictureIsPrintedWhoeverWritesTheScratchFileToo) {
+  FilesOfTwoHosts shared;
+  fakes::FakePictures itsPictures(shared);
+  FieldPrinter printer(surface, shared, itsPictures);
+  printer.Print(field, {0, 0}, u"PICTURE 40x30", data::kPictureData);
+  EXPECT_THAT(itsPictures.Log(), testing::HasSubstr("scale 40x30"));
 }
 
 TEST_F(PictureFields, BytesOfEveryCodeReachTheFileUnchanged) {
@@ -339,7 +355,7 @@ TEST_F(FieldsOfAModel, AModelThatNamesNoFontIsDrawnInTheSurfacesOwn) {
   SetModel("", "<Campo><Descripcion>#a</Descripcion><Width>500</Width><Bold>1</Bold></Campo>");
   fakes::RecordingSurface surface;
   surface.SetFont({.name = u"Verdana", .sizePoints = 7});
-  EXPECT_TRUE(Draw(job, environment, surface));
+  EXPECT_TRUE(Draw(surface));
   EXPECT_EQ(surface.Log(), "page 0x0\nfont Verdana 7 bold\n0,0 a\n");
 }
 

@@ -132,13 +132,15 @@ class Run {
     (what == "end" ? printers_.faults.end : printers_.faults.text) = Integer<int>(which);
   }
   void Print(std::string_view) {
-    Act("print", [this](const Environment& environment) { return print::Print(job_, environment); });
+    Act("print", [this](const Environment& environment) {
+      return print::Print(job_, environment, FindCurrentModel(job_, environment));
+    });
   }
   void Draw(std::string_view) {
     Act("draw", [this](const Environment& environment) {
       fakes::RecordingSurface surface;
       surface.LogTo(log_);
-      return print::Draw(job_, environment, surface);
+      return print::Draw(job_, environment, FindCurrentModel(job_, environment), surface);
     });
   }
   template <typename Action>

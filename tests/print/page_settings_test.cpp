@@ -116,7 +116,7 @@ TEST_F(PrinterChoice, AnotherPrintJobAsksAgain) {
   prompts.printer = u"Impresora Recibos";
   EXPECT_TRUE(Print());
   data::PrintJob other;
-  EXPECT_TRUE(print::Print(other, environment));
+  EXPECT_TRUE(print::Print(other, environment, Model()));
   EXPECT_EQ(prompts.printerPrompts.size(), 2U);
 }
 
@@ -162,7 +162,7 @@ TEST_F(PrinterChoice, AnAnswerThatIsNotInstalledIsAskedForAgainByItsName) {
   MistypingUser user;
   Environment other{files, printers,  spooler,    pictures,          user,
                     clock, modelFile, paperForms, environment.locale};
-  EXPECT_TRUE(print::Print(job, other));
+  EXPECT_TRUE(print::Print(job, other, Model()));
   EXPECT_THAT(user.printerPrompts,
               ElementsAre(u"Error Impresora|No existe la impresora (Impresora Vieja) Elegir impresora",
                           u"Error Impresora|No existe la impresora (Recibos) Elegir impresora"));

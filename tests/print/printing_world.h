@@ -7,6 +7,7 @@
 
 #include "data/fields.h"
 #include "print/engine.h"
+#include "print/model_choice.h"
 #include "tests/fakes/fake_pictures.h"
 #include "tests/fakes/fixed_clock.h"
 #include "tests/fakes/memory_files.h"
@@ -44,12 +45,14 @@ struct PrintingWorld {
     SetFile(text);
   }
 
-  bool Print() { return print::Print(job, environment); }
+  [[nodiscard]] model::ModelTexts Model() const { return FindCurrentModel(job, environment); }
+  bool Print() { return print::Print(job, environment, Model()); }
+  bool Draw(platform::Surface& surface) { return print::Draw(job, environment, Model(), surface); }
 
   // What is drawn without a printer, or the number of the error.
   std::string Drawn() {
     fakes::RecordingSurface surface;
-    (void)Draw(job, environment, surface);
+    (void)Draw(surface);
     return surface.Log();
   }
 };

@@ -107,9 +107,13 @@ const Bitmap24& BitmapOf(const Picture& picture) {
 std::unique_ptr<Picture> Win32Pictures::Load(std::u16string_view path) {
   const std::optional<std::string> bytes = Win32Files().Read(path);
   if (!bytes) Throw(ErrorNumber::FileNotFound);
-  const Reference<IStream> stream = StreamOf(*bytes);
+  return Decode(*bytes);
+}
+
+std::unique_ptr<Picture> Win32Pictures::Decode(std::string_view bytes) {
+  const Reference<IStream> stream = StreamOf(bytes);
   Reference<IPicture> picture;
-  if (FAILED(OleLoadPicture(stream.Get(), static_cast<LONG>(bytes->size()), FALSE, IID_IPicture,
+  if (FAILED(OleLoadPicture(stream.Get(), static_cast<LONG>(bytes.size()), FALSE, IID_IPicture,
                             reinterpret_cast<void**>(picture.Receive()))) ||
       !picture)
     Throw(ErrorNumber::InvalidPicture);
@@ -125,16 +129,12 @@ std::unique_ptr<Picture> Win32Pictures::Scaled(const Picture& picture, int width
   return std::make_unique<BitmapPicture>(std::move(scaled));
 }
 
-void Win32Pictures::PutOnClipboard(const Picture& picture) {
+std::unique_ptr<Picture> Win32Pictures::ThroughClipboard(const Picture& picture) {
   OwnedBitmap copy(static_cast<HBITMAP>(CopyImage(BitmapOf(picture).Handle(), IMAGE_BITMAP, 0, 0, 0)));
   if (!copy) Throw(ErrorNumber::OutOfMemory);
   const OpenedClipboard clipboard;
   if (!EmptyClipboard() || !SetClipboardData(CF_BITMAP, copy.Get())) Throw(ErrorNumber::InputOutput);
   (void)copy.Release();  // the clipboard's now
-}
-
-std::unique_ptr<Picture> Win32Pictures::TakeFromClipboard() {
-  const OpenedClipboard clipboard;
   auto* const bitmap = static_cast<HBITMAP>(GetClipboardData(CF_BITMAP));
   if (!bitmap) Throw(ErrorNumber::InvalidPicture);
   return CopyOf(bitmap);

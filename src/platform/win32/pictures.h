@@ -26,12 +26,11 @@ class Win32Pictures : public Pictures {
  public:
   // Error 53 for a file that does not exist.
   [[nodiscard]] std::unique_ptr<Picture> Load(std::u16string_view path) override;
+  [[nodiscard]] std::unique_ptr<Picture> Decode(std::string_view bytes) override;
   // A size that is not positive keeps the picture's own, as the bitmap copy of Windows does with 0.
   [[nodiscard]] std::unique_ptr<Picture> Scaled(const Picture& picture, int widthPixels,
                                                 int heightPixels) override;
-  void PutOnClipboard(const Picture& picture) override;
-  // Error 481 when there is no bitmap on the clipboard.
-  [[nodiscard]] std::unique_ptr<Picture> TakeFromClipboard() override;
+  [[nodiscard]] std::unique_ptr<Picture> ThroughClipboard(const Picture& picture) override;
 };
 
 }  // namespace qm::platform::win32
