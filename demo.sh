@@ -33,3 +33,8 @@ scripts/wine-run.sh cscript //nologo "$(windows_path examples/factura.js)"
 show factura "an invoice, filled and printed by examples/factura.js on \"Impresora A4\""
 scripts/wine-run.sh cscript //nologo "$(windows_path examples/recibo.vbs)"
 show recibo "a receipt, filled and printed by examples/recibo.vbs"
+# The label host asks for the sheet's grid; the demo takes what the dialog offers.
+scripts/wine-run.sh build/win64/accept_dialog.exe "Opciones de Etiquetas" &
+scripts/wine-run.sh cscript //nologo "$(windows_path examples/etiquetas.js)"
+wait
+show etiquetas "labels of the customers of a record file, made and printed by examples/etiquetas.js"

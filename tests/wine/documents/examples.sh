@@ -27,3 +27,12 @@ done
 expect_equal "recibo.exe" "Recibo impreso" "$(run "$1" "$(windows_path "$QM_SOURCE_DIR/examples/modelos.xml")" | tr -d '\r')"
 expect_jobs 4
 expect_equal "the C++ host's receipt" "$receipt" "$(text_of_job 4)"
+
+run "$2" "Opciones de Etiquetas" &
+expect_equal "etiquetas.js" "Etiquetas impresas" "$(example etiquetas.js)"
+wait $! || fail "the label options were not asked for"
+expect_jobs 5
+labels=$(text_of_job 5)
+expect_equal "sheets of 2 x 8 labels for 20 customers" 2 "$(pdfinfo "$QM_SCRATCH/5.pdf" | awk '/^Pages/ { print $2 }')"
+expect_equal "customers, four times each" 4 "$(grep -oF "Librería Güell" <<<"$labels" | wc -l)"
+grep -qF "29/02/20" <<<"$labels" || fail "a date is missing on the labels: $labels"
