@@ -1,7 +1,7 @@
 #pragma once
-// Whether a text in the 8-bit code page is well-formed XML, told in one pass without recursion and before
-// anything is read of it; what reads it afterwards checks nothing again. Namespaces are not looked at.
-// Entities of a document type are never resolved, so that a reference to one is an error.
+// Whether a text in the 8-bit code page is well-formed XML, and where its models lie, told in one pass
+// without recursion before the XML library, which is lenient and recursive, reads a model of it. Namespaces
+// are not looked at. Entities of a document type are never resolved, so that a reference to one is an error.
 
 #include <cstddef>
 #include <string_view>

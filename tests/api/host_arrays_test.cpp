@@ -9,22 +9,12 @@
 #include "runtime/error.h"
 #include "tests/api/component.h"
 #include "tests/api/safe_array.h"
+#include "tests/error_of.h"
 
 namespace qm::tests {
 namespace {
 
 using api::HostArrays;
-using runtime::RuntimeError;
-
-template <class Action>
-int ErrorOf(Action&& action) {
-  try {
-    action();
-  } catch (const RuntimeError& error) {
-    return error.number();
-  }
-  return 0;
-}
 
 TEST(HostArrays, TheFirstIndexIsTheFileAndTheSecondTheFieldWithinTheirOwnBounds) {
   SafeArray values(VT_BSTR, {{5, 2}, {3, 1}});  // 5 files from 2, 3 fields from 1

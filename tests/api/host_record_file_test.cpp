@@ -7,22 +7,13 @@
 #include "runtime/error.h"
 #include "tests/api/component.h"
 #include "tests/api/host_object.h"
+#include "tests/error_of.h"
 
 namespace qm::tests {
 namespace {
 
 using api::HostRecordFile;
 using runtime::RuntimeError;
-
-template <class Action>
-int ErrorOf(Action&& action) {
-  try {
-    action();
-  } catch (const RuntimeError& error) {
-    return error.number();
-  }
-  return 0;
-}
 
 TEST(HostRecordFile, NothingIsError91AndAnObjectWithoutAutomationError13) {
   EXPECT_EQ(ErrorOf([] { HostRecordFile records(nullptr); }), 91);

@@ -5,6 +5,7 @@
 #include "data/value_lookup.h"
 #include "runtime/error.h"
 #include "tests/data/definition_bytes.h"
+#include "tests/error_of.h"
 #include "tests/fakes/fixed_clock.h"
 #include "tests/fakes/memory_files.h"
 #include "tests/fakes/recorded_record_file.h"
@@ -27,16 +28,7 @@ using ::testing::ElementsAre;
 using ::testing::IsEmpty;
 using ::testing::SizeIs;
 using tests::DefinitionBytes;
-
-template <class Action>
-int ErrorOf(Action&& action) {
-  try {
-    action();
-  } catch (const runtime::RuntimeError& error) {
-    return error.number();
-  }
-  return 0;
-}
+using tests::ErrorOf;
 
 // Values "C(file, field)" and types file * 100 + field, up to the bounds.
 class NumberedArrays : public RecordArrays {

@@ -4,11 +4,14 @@
 
 #include "data/fields.h"
 #include "runtime/error.h"
+#include "tests/error_of.h"
 #include "tests/fakes/fixed_clock.h"
 #include "tests/fakes/scripted_prompts.h"
 
 namespace qm::data {
 namespace {
+
+using tests::ErrorOf;
 
 constexpr std::int16_t kUntouched = -7;
 
@@ -23,16 +26,6 @@ class ValueLookups : public testing::Test {
     kind = kUntouched;
     return lookup.ObtenerValorFila(name, copy, kind, row);
   }
-  template <typename Action>
-  int ErrorOf(Action action) {
-    try {
-      action();
-    } catch (const runtime::RuntimeError& error) {
-      return error.number();
-    }
-    return 0;
-  }
-
   PrintJob job;
   fakes::ScriptedPrompts user;
   fakes::FixedClock clock;

@@ -9,6 +9,7 @@
 #include "print/engine.h"
 #include "print/label_sheets.h"
 #include "print/model_choice.h"
+#include "tests/error_of.h"
 #include "tests/fakes/fake_pictures.h"
 #include "tests/fakes/fake_settings.h"
 #include "tests/fakes/fixed_clock.h"
@@ -18,6 +19,8 @@
 #include "tests/fakes/scripted_spooler.h"
 
 namespace qm::print {
+
+using tests::ErrorOf;
 
 struct PrintingWorld {
   std::string log;
@@ -60,17 +63,6 @@ struct PrintingWorld {
     return surface.Log();
   }
 };
-
-// The number of the error that an action fails with, 0 for none.
-template <typename Action>
-int ErrorOf(Action&& action) {
-  try {
-    std::forward<Action>(action)();
-  } catch (const runtime::RuntimeError& error) {
-    return error.number();
-  }
-  return 0;
-}
 
 template <typename Action>
 std::u16string ErrorTextOf(Action&& action) {

@@ -2,10 +2,10 @@
 
 #include <gtest/gtest.h>
 
-#include "tests/runtime/expect_error.h"
+#include "tests/error_of.h"
 
 using namespace qm::runtime;
-using qm::test::RaisedBy;
+using qm::tests::ErrorOf;
 
 TEST(CodePage, AllTwoHundredAndFiftySixBytesSurviveTheWayToTextAndBack) {
   std::string bytes;
@@ -54,15 +54,15 @@ TEST(CodePage, AscIsTheByteOfTheFirstCharacter) {
   EXPECT_EQ(Asc(u"·"), 183);
   EXPECT_EQ(Asc(u"漢"), 63);
   EXPECT_EQ(Asc(u"Ω"), 79);
-  EXPECT_EQ(RaisedBy([] { return Asc(u""); }), 5);
+  EXPECT_EQ(ErrorOf([] { return Asc(u""); }), 5);
 }
 
 TEST(CodePage, ChrTakesZeroToTwoHundredAndFiftyFive) {
   EXPECT_EQ(Chr(0), u'\0');
   EXPECT_EQ(Chr(128), u'€');
   EXPECT_EQ(Chr(255), u'ÿ');
-  EXPECT_EQ(RaisedBy([] { return Chr(256); }), 5);
-  EXPECT_EQ(RaisedBy([] { return Chr(-1); }), 5);
+  EXPECT_EQ(ErrorOf([] { return Chr(256); }), 5);
+  EXPECT_EQ(ErrorOf([] { return Chr(-1); }), 5);
 }
 
 TEST(Utf8, EveryPlaneGoesThereAndBack) {

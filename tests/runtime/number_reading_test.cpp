@@ -8,10 +8,10 @@
 #include <random>
 
 #include "runtime/code_page.h"
-#include "tests/runtime/expect_error.h"
+#include "tests/error_of.h"
 
 using namespace qm::runtime;
-using qm::test::RaisedBy;
+using qm::tests::ErrorOf;
 
 namespace {
 
@@ -85,10 +85,10 @@ TEST(LeadingNumber, IsReadWithADotInEveryLocale) {
 }
 
 TEST(LeadingNumber, ANumberTooLargeIsErrorSix) {
-  EXPECT_EQ(RaisedBy([] { return Val(u"1e400"); }), 6);
-  EXPECT_EQ(RaisedBy([] { return Val(u"1e99999999999999999999"); }), 6);
-  EXPECT_EQ(RaisedBy([] { return Val(u"&H123456789"); }), 6);
-  EXPECT_EQ(RaisedBy([] { return Val(std::u16string(400, u'9')); }), 6);
+  EXPECT_EQ(ErrorOf([] { return Val(u"1e400"); }), 6);
+  EXPECT_EQ(ErrorOf([] { return Val(u"1e99999999999999999999"); }), 6);
+  EXPECT_EQ(ErrorOf([] { return Val(u"&H123456789"); }), 6);
+  EXPECT_EQ(ErrorOf([] { return Val(std::u16string(400, u'9')); }), 6);
 }
 
 TEST(WholeTextNumber, FollowsTheLocalesSigns) {
@@ -156,13 +156,13 @@ TEST(WholeTextNumber, FollowsTheLocalesSigns) {
 }
 
 TEST(WholeTextNumber, TooLargeIsErrorSixAndNotANumberIsErrorThirteen) {
-  EXPECT_EQ(RaisedBy([] { return CDbl(u"1e400", kSpanish); }), 6);
-  EXPECT_EQ(RaisedBy([] { return CDbl(u"-1e400", kSpanish); }), 6);
-  EXPECT_EQ(RaisedBy([] { return CDbl(u"&H1FFFFFFFFFFFFFFFF", kSpanish); }), 6);  // beyond 64 bits
+  EXPECT_EQ(ErrorOf([] { return CDbl(u"1e400", kSpanish); }), 6);
+  EXPECT_EQ(ErrorOf([] { return CDbl(u"-1e400", kSpanish); }), 6);
+  EXPECT_EQ(ErrorOf([] { return CDbl(u"&H1FFFFFFFFFFFFFFFF", kSpanish); }), 6);  // beyond 64 bits
   EXPECT_EQ(CDbl(u"0e999", kSpanish), 0);
   EXPECT_EQ(CDbl(std::u16string(400, u'0') + u"5e-1", kSpanish), 0.5);
   EXPECT_EQ(CDbl(u"," + std::u16string(400, u'0') + u"5e401", kSpanish), 5);
-  EXPECT_EQ(RaisedBy([] { return CDbl(u"abc", kSpanish); }), 13);
+  EXPECT_EQ(ErrorOf([] { return CDbl(u"abc", kSpanish); }), 13);
 }
 
 TEST(WholeTextNumber, TheTryingFormGivesNothingInsteadOfAnError) {
@@ -187,11 +187,11 @@ TEST(Integers, AreRoundedHalfToEvenAndTheRangeIsTestedAfterwards) {
                {1441.5, 1442}, {32767.49, 32767}, {-32768, -32768}, {-32768.5, -32768}};
   for (const auto& row : kRows) EXPECT_EQ(CInt(row.value), row.rounded) << row.value;
   for (const double value : {32767.5, 32768.0, -32768.51, 1e300, std::nan("")}) {
-    EXPECT_EQ(RaisedBy([value] { return CInt(value); }), 6) << value;
+    EXPECT_EQ(ErrorOf([value] { return CInt(value); }), 6) << value;
   }
   EXPECT_EQ(CLng(2147483647.49), 2147483647);
   EXPECT_EQ(CLng(-2147483648.5), std::numeric_limits<std::int32_t>::min());
-  EXPECT_EQ(RaisedBy([] { return CLng(2147483647.5); }), 6);
+  EXPECT_EQ(ErrorOf([] { return CLng(2147483647.5); }), 6);
 }
 
 TEST(Integers, OfTextsFollowTheLocale) {
@@ -202,8 +202,8 @@ TEST(Integers, OfTextsFollowTheLocale) {
   EXPECT_EQ(CInt(u"2,5", kEnglish), 25);
   EXPECT_EQ(CInt(u"11905.5", kEnglish), 11906);
   EXPECT_EQ(CLng(u"11905.5", kSpanish), 119055);
-  EXPECT_EQ(RaisedBy([] { return CInt(u"11905.5", kSpanish); }), 6);
-  EXPECT_EQ(RaisedBy([] { return CInt(u"", kSpanish); }), 13);
+  EXPECT_EQ(ErrorOf([] { return CInt(u"11905.5", kSpanish); }), 6);
+  EXPECT_EQ(ErrorOf([] { return CInt(u"", kSpanish); }), 13);
 }
 
 TEST(Integers, ReadingOnlyTheLeadingNumberStopsAtTheComma) {
@@ -215,7 +215,7 @@ TEST(Integers, AHexadecimalTextOfTheirWidthIsTheirBitPattern) {
   EXPECT_EQ(CInt(u"&HFFFF", kSpanish), -1);
   EXPECT_EQ(CLng(u"&HFFFF", kSpanish), 65535);
   EXPECT_EQ(CLng(u"&HFFFFFFFF", kSpanish), -1);
-  EXPECT_EQ(RaisedBy([] { return CInt(u"&H10000", kSpanish); }), 6);
+  EXPECT_EQ(ErrorOf([] { return CInt(u"&H10000", kSpanish); }), 6);
 }
 
 TEST(Booleans, AreTheLocalesWordsTheEnglishOnesOrNumbers) {
@@ -227,11 +227,11 @@ TEST(Booleans, AreTheLocalesWordsTheEnglishOnesOrNumbers) {
     EXPECT_FALSE(CBool(text, kSpanish)) << ToUtf8(text);
   }
   for (const auto* text : {u"", u" True", u"True ", u"SI", u"Sí", u"On", u"abc", u"#True#"}) {
-    EXPECT_EQ(RaisedBy([text] { return CBool(text, kSpanish); }), 13) << ToUtf8(text);
+    EXPECT_EQ(ErrorOf([text] { return CBool(text, kSpanish); }), 13) << ToUtf8(text);
   }
-  EXPECT_EQ(RaisedBy([] { return CBool(u"Verdadero", kEnglish); }), 13);
-  EXPECT_EQ(RaisedBy([] { return CBool(u"Falso", kEnglish); }), 13);
-  EXPECT_EQ(RaisedBy([] { return CBool(u"1e400", kEnglish); }), 6);
+  EXPECT_EQ(ErrorOf([] { return CBool(u"Verdadero", kEnglish); }), 13);
+  EXPECT_EQ(ErrorOf([] { return CBool(u"Falso", kEnglish); }), 13);
+  EXPECT_EQ(ErrorOf([] { return CBool(u"1e400", kEnglish); }), 6);
 }
 
 // Extended precision somewhere in a 32-bit program would show here.

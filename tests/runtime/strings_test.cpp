@@ -3,10 +3,10 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include "tests/runtime/expect_error.h"
+#include "tests/error_of.h"
 
 using namespace qm::runtime;
-using qm::test::RaisedBy;
+using qm::tests::ErrorOf;
 using testing::ElementsAre;
 using testing::IsEmpty;
 
@@ -33,11 +33,11 @@ TEST(Cutting, MoreThanThereIsGivesTheWholeText) {
 }
 
 TEST(Cutting, NegativeCountsAndAStartOfZeroAreErrorFive) {
-  EXPECT_EQ(RaisedBy([] { return Left(u"abc", -1); }), 5);
-  EXPECT_EQ(RaisedBy([] { return Right(u"abc", -1); }), 5);
-  EXPECT_EQ(RaisedBy([] { return Mid(u"abc", 0); }), 5);
-  EXPECT_EQ(RaisedBy([] { return Mid(u"abc", 0, 1); }), 5);
-  EXPECT_EQ(RaisedBy([] { return Mid(u"abc", 1, -1); }), 5);
+  EXPECT_EQ(ErrorOf([] { return Left(u"abc", -1); }), 5);
+  EXPECT_EQ(ErrorOf([] { return Right(u"abc", -1); }), 5);
+  EXPECT_EQ(ErrorOf([] { return Mid(u"abc", 0); }), 5);
+  EXPECT_EQ(ErrorOf([] { return Mid(u"abc", 0, 1); }), 5);
+  EXPECT_EQ(ErrorOf([] { return Mid(u"abc", 1, -1); }), 5);
 }
 
 TEST(Searching, PositionsCountFromOneAndZeroIsNotFound) {
@@ -60,8 +60,8 @@ TEST(Searching, AnEmptyPartIsFoundAtTheStartButNotInAnEmptyText) {
 }
 
 TEST(Searching, AStartOfZeroIsErrorFiveEvenInAnEmptyText) {
-  EXPECT_EQ(RaisedBy([] { return InStr(u"abc", u"a", 0); }), 5);
-  EXPECT_EQ(RaisedBy([] { return InStr(u"", u"", 0); }), 5);
+  EXPECT_EQ(ErrorOf([] { return InStr(u"abc", u"a", 0); }), 5);
+  EXPECT_EQ(ErrorOf([] { return InStr(u"", u"", 0); }), 5);
 }
 
 TEST(Searching, TextComparisonIsBlindToCaseButNotToAccents) {
