@@ -4,6 +4,7 @@
 #include <functional>
 #include <map>
 #include <optional>
+#include <set>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -24,6 +25,7 @@ class MemoryFiles : public platform::Files {
   std::vector<Replacement> replacements;                // the successful ones, in order
   std::optional<runtime::ErrorNumber> failReplaceWith;  // then nothing is written
   std::optional<runtime::ErrorNumber> failReadWith;
+  std::set<std::u16string, std::less<>> locked;  // for appending
   std::u16string scratchFolder = u"C:\\Temp\\";
 
   [[nodiscard]] bool Exists(std::u16string_view path) override { return contents.contains(path); }
@@ -43,6 +45,18 @@ class MemoryFiles : public platform::Files {
     if (failReplaceWith) throw runtime::RuntimeError(*failReplaceWith);
     contents.insert_or_assign(std::u16string(path), std::string(bytes));
     replacements.push_back({std::u16string(path), std::string(bytes)});
+  }
+
+  void Delete(std::u16string_view path) override {
+    if (contents.erase(std::u16string(path)) == 0)
+      throw runtime::RuntimeError(runtime::ErrorNumber::FileNotFound);
+  }
+
+  [[nodiscard]] bool CanRead(std::u16string_view path) override { return contents.contains(path); }
+
+  void TryAppend(std::u16string_view path) override {
+    if (locked.contains(path)) throw runtime::RuntimeError(runtime::ErrorNumber::PermissionDenied);
+    if (!contents.contains(path)) throw runtime::RuntimeError(runtime::ErrorNumber::FileNotFound);
   }
 
   [[nodiscard]] std::u16string ScratchFolder() override { return scratchFolder; }

@@ -190,6 +190,21 @@ void Win32Files::Replace(std::u16string_view path, std::string_view bytes) {
   fresh.TakeThePlaceOf(target);
 }
 
+void Win32Files::Delete(std::u16string_view path) {
+  if (!DeleteFileW(Wide(SystemPath(path)))) ThrowLastFileError();
+}
+
+bool Win32Files::CanRead(std::u16string_view path) {
+  return static_cast<bool>(OpenedForReading(path, OPEN_EXISTING));
+}
+
+void Win32Files::TryAppend(std::u16string_view path) {
+  const OwnedFile file(CreateFileW(Wide(SystemPath(path)), FILE_APPEND_DATA,
+                                   FILE_SHARE_READ | FILE_SHARE_WRITE, nullptr, OPEN_EXISTING,
+                                   FILE_ATTRIBUTE_NORMAL, nullptr));
+  if (!file) ThrowLastFileError();
+}
+
 std::u16string Win32Files::ScratchFolder() {
   std::u16string folder(MAX_PATH + 1, u'\0');
   const DWORD length = GetTempPathW(static_cast<DWORD>(folder.size()), WideBuffer(folder));

@@ -1,0 +1,67 @@
+#pragma once
+// The layout being edited: what is selected, whether it was modified, and the way back. Every change of the
+// layout goes through here; whoever shows it is told of each with the layouts before and after.
+
+#include <cstddef>
+#include <functional>
+#include <vector>
+
+#include "designer/layout.h"
+
+namespace qm::designer {
+
+class Document {
+ public:
+  using Listener = std::function<void(const Layout& before, const Layout& after)>;
+
+  Document() = default;
+  Document(const Document&) = delete;
+  Document& operator=(const Document&) = delete;
+  ~Document() = default;
+
+  void Listen(Listener listener) { listener_ = std::move(listener); }
+
+  [[nodiscard]] const Layout& Current() const { return layout_; }
+
+  // One edit: marks the layout modified and is one step of undo. A change that changes nothing is none.
+  void Edit(const std::function<void(Layout&)>& change);
+  // Edits from here to the end, a drag's for example, are one step. Gestures do not nest.
+  void BeginGesture();
+  void EndGesture();
+  // Not an edit: neither marks anything nor can be undone.
+  void Adjust(const std::function<void(Layout&)>& change);
+  // Another layout, with nothing to undo, not modified and nothing selected.
+  void Start(Layout layout);
+
+  // False when there is nothing. They mark the layout modified, like any change. A field that is no longer
+  // there is no longer selected.
+  bool Undo();
+  bool Redo();
+
+  [[nodiscard]] bool Modified() const { return modified_; }
+  void MarkModified() { modified_ = true; }
+  void ClearModified() { modified_ = false; }
+
+  // The field last pressed; it stays selected also when its handles are hidden. 0 for none.
+  [[nodiscard]] int Selected() const { return selected_; }
+  void Select(int index);
+  [[nodiscard]] bool LogoSelected() const { return logoSelected_; }
+  void SelectLogo();  // and no field
+
+ private:
+  void Become(Layout layout);
+
+  static constexpr std::size_t kMostSteps = 500;
+
+  Layout layout_;
+  std::vector<Layout> undo_;
+  std::vector<Layout> redo_;
+  bool inGesture_ = false;
+  bool gestureChanged_ = false;
+  bool modified_ = false;
+  int selected_ = 0;
+  bool logoSelected_ = false;
+  Listener listener_;
+};
+
+}  // namespace qm::designer
