@@ -1,8 +1,8 @@
 #pragma once
-// A record file by its path: opened, walked, searched and added to. Fields and keys are numbered from 1, a key
-// walks by the field of its number. A file that does not exist counts as one without records; storing makes it.
-// Errors: those of the record files and of platform::Files.
-// Implemented by recordfile/file_record_store and the tests' FakeRecordStore.
+// A record file by its path: opened, walked, searched and added to. Fields and keys are numbered from 1, a
+// key walks by the field of its number. A file that does not exist counts as one without records; storing
+// makes it. Errors: those of the record files and of platform::Files. Implemented by
+// recordfile/file_record_store and the tests' FakeRecordStore.
 
 #include <string>
 #include <string_view>
