@@ -9,6 +9,8 @@
 #include <string>
 #include <string_view>
 
+#include "runtime/format.h"
+
 namespace qm::platform {
 
 class Files {
@@ -29,6 +31,10 @@ class Files {
   // Opens the file for appending and closes it again, nothing written: error 70 while another program keeps
   // it to itself.
   virtual void TryAppend(std::u16string_view path) = 0;
+  // The local time of the file's last change; nothing where that is not known.
+  [[nodiscard]] virtual std::optional<runtime::DateTime> LastChange(std::u16string_view) {
+    return std::nullopt;
+  }
   // The user's folder for scratch files, with its final backslash.
   [[nodiscard]] virtual std::u16string ScratchFolder() = 0;
 };
