@@ -10,22 +10,13 @@ namespace qm::platform {
 namespace {
 
 constexpr std::size_t kFirstRoom = 64 * 1024;
-constexpr int kWindowBits = 15;
-constexpr int kMemoryLevel = 9;
-
-int LibraryStrategy(Deflater::Strategy strategy) {
-  if (strategy == Deflater::Strategy::Filtered) return Z_FILTERED;
-  return strategy == Deflater::Strategy::Runs ? Z_RLE : Z_DEFAULT_STRATEGY;
-}
 
 }  // namespace
 
-Deflater::Deflater(int level, Strategy strategy) : output_(kFirstRoom, '\0') {
+Deflater::Deflater(int level) : output_(kFirstRoom, '\0') {
   auto stream = std::make_unique<z_stream>();
-  if (deflateInit2(stream.get(), level, Z_DEFLATED, kWindowBits, kMemoryLevel, LibraryStrategy(strategy)) !=
-      Z_OK) {
+  if (deflateInit(stream.get(), level) != Z_OK)
     throw runtime::RuntimeError(runtime::ErrorNumber::OutOfMemory);
-  }
   stream_ = stream.release();
 }
 
@@ -57,9 +48,8 @@ void Deflater::Run(int flush) {
   } while (stream_->avail_out == 0);
 }
 
-std::string Deflated(std::string_view bytes) {
-  constexpr int kUsualLevel = 6;
-  Deflater deflater(kUsualLevel, Deflater::Strategy::Default);
+std::string Deflated(std::string_view bytes, int level) {
+  Deflater deflater(level);
   deflater.Write(reinterpret_cast<const std::uint8_t*>(bytes.data()), bytes.size());
   return deflater.Finish();
 }

@@ -13,9 +13,7 @@ namespace qm::platform {
 
 class Deflater {
  public:
-  enum class Strategy { Default, Filtered, Runs };
-
-  Deflater(int level, Strategy strategy);
+  explicit Deflater(int level);
   Deflater(const Deflater&) = delete;
   Deflater& operator=(const Deflater&) = delete;
   ~Deflater();
@@ -31,6 +29,6 @@ class Deflater {
   std::size_t used_ = 0;
 };
 
-[[nodiscard]] std::string Deflated(std::string_view bytes);
+[[nodiscard]] std::string Deflated(std::string_view bytes, int level = 6);
 
 }  // namespace qm::platform

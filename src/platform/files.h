@@ -25,6 +25,8 @@ class Files {
   [[nodiscard]] virtual std::string ReadOrCreate(std::u16string_view path, std::size_t most) = 0;
   // Writes beside the file, flushes and swaps: at any moment the file is the old or the new one, whole.
   virtual void Replace(std::u16string_view path, std::string_view bytes) = 0;
+  // The same without waiting until the disk has it: for what can be made again at any time.
+  virtual void ReplaceUnflushed(std::u16string_view path, std::string_view bytes) { Replace(path, bytes); }
   virtual void Delete(std::u16string_view path) = 0;
   // Whether it exists and can be opened for reading while others read and write it.
   [[nodiscard]] virtual bool CanRead(std::u16string_view path) = 0;

@@ -2,11 +2,11 @@
 
 #include <algorithm>
 #include <array>
-#include <cstring>
 #include <optional>
 #include <vector>
 
 #include "platform/deflater.h"
+#include "platform/run_lengths.h"
 
 namespace qm::platform {
 namespace {
@@ -22,10 +22,11 @@ std::uint32_t ColorAt(const std::uint8_t* pixel) {
   return static_cast<std::uint32_t>(pixel[0] | pixel[1] << 8 | pixel[2] << 16);
 }
 
-// Up to 256 colours in the order of their first use; white is always the first.
+// Up to 256 colours in the order of their first use, after white.
 class Palette {
  public:
   static constexpr int kFull = -1;
+  static constexpr std::uint8_t kWhite = 0;  // its index
 
   Palette() { (void)IndexOf(0xFFFFFF); }
 
@@ -72,22 +73,32 @@ bool IndexRow(const std::uint8_t* row, Palette& palette, Bytes& indexes) {
   return true;
 }
 
+// Without an early end, so that the compiler makes it a few wide instructions; most rows are white.
+bool IsWhite(const std::uint8_t* row, std::size_t count) {
+  std::uint8_t all = 0xFF;
+  for (std::size_t i = 0; i < count; ++i) all &= row[i];
+  return all == 0xFF;
+}
+
 std::optional<PdfImage> Indexed(const PageImage& image) {
-  constexpr int kLevel = 6;
+  constexpr int kLevel = 5;
   const auto width = static_cast<std::size_t>(image.width);
-  const Bytes whitePixels(width * kBytesAPixel, 0xFF);
-  const Bytes whiteIndexes(width, 0);
   Bytes indexes(width);
   Palette palette;
-  Deflater deflater(kLevel, Deflater::Strategy::Default);
+  RunLengths runs;
   for (int y = 0; y < image.height; ++y) {
-    const bool white = std::memcmp(Row(image, y), whitePixels.data(), whitePixels.size()) == 0;
-    if (!white && !IndexRow(Row(image, y), palette, indexes)) return std::nullopt;
-    deflater.Write((white ? whiteIndexes : indexes).data(), width);
+    const std::uint8_t* row = Row(image, y);
+    if (IsWhite(row, width * kBytesAPixel)) {
+      runs.AddRun(Palette::kWhite, width);
+    } else if (IndexRow(row, palette, indexes)) {
+      runs.Add(indexes.data(), width);
+    } else {
+      return std::nullopt;
+    }
   }
-  return PdfImage{"/ColorSpace[/Indexed/DeviceRGB " + std::to_string(palette.Count() - 1) + "<" +
-                      palette.AsHexadecimal() + ">]",
-                  deflater.Finish()};
+  return PdfImage{"/Filter[/FlateDecode/RunLengthDecode]/ColorSpace[/Indexed/DeviceRGB " +
+                      std::to_string(palette.Count() - 1) + "<" + palette.AsHexadecimal() + ">]",
+                  Deflated(runs.Finish(), kLevel)};
 }
 
 // Each pixel as its difference from the one at its left, which shrinks photographs.
@@ -97,7 +108,7 @@ PdfImage TrueColor(const PageImage& image) {
   const auto width = static_cast<std::size_t>(image.width);
   Bytes line(1 + width * kBytesAPixel);
   line[0] = kSub;
-  Deflater deflater(kLevel, Deflater::Strategy::Filtered);
+  Deflater deflater(kLevel);
   for (int y = 0; y < image.height; ++y) {
     const std::uint8_t* pixel = Row(image, y);
     std::array<std::uint8_t, kBytesAPixel> left{};
@@ -110,7 +121,8 @@ PdfImage TrueColor(const PageImage& image) {
     }
     deflater.Write(line.data(), line.size());
   }
-  return {"/ColorSpace/DeviceRGB/DecodeParms<</Predictor 15/Colors 3/Columns " + std::to_string(width) + ">>",
+  return {"/Filter/FlateDecode/ColorSpace/DeviceRGB/DecodeParms<</Predictor 15/Colors 3/Columns " +
+              std::to_string(width) + ">>",
           deflater.Finish()};
 }
 
@@ -120,7 +132,7 @@ PdfImage PdfImageOf(const PageImage& image) {
   auto indexed = Indexed(image);
   PdfImage result = indexed ? std::move(*indexed) : TrueColor(image);
   result.entries = "/Type/XObject/Subtype/Image/Width " + std::to_string(image.width) + "/Height " +
-                   std::to_string(image.height) + "/BitsPerComponent 8/Filter/FlateDecode" + result.entries;
+                   std::to_string(image.height) + "/BitsPerComponent 8" + result.entries;
   return result;
 }
 

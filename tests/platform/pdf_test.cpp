@@ -72,7 +72,8 @@ TEST(PdfPages, APageOfFewColoursHasAPaletteThatBeginsWithWhite) {
   page.Set(2, 1, 0x0000FF);
   const std::string pdf = PdfOf(page);
   EXPECT_THAT(pdf, HasSubstr("/ColorSpace[/Indexed/DeviceRGB 2<FFFFFFC000000000FF>]"));
-  EXPECT_EQ(StreamWith(pdf, "/Indexed"), std::string("\0\1\0\0\0\2", 6));
+  // "0 1", three of 0, "2": by counts less one for what differs and 257 less the count for what does not.
+  EXPECT_EQ(StreamWith(pdf, "/Indexed"), std::string("\1\0\1\xFE\0\0\2\x80", 8));
 }
 
 TEST(PdfPages, TwoHundredAndFiftySixColoursStillHaveAPalette) {
