@@ -4,6 +4,7 @@
 #include <utility>
 
 #include "mail/names.h"
+#include "mail/zip_codes.h"
 #include "print/text/references.h"
 #include "runtime/code_page.h"
 #include "runtime/error.h"
@@ -119,7 +120,7 @@ void GoTo(std::u16string_view folder, platform::Folders& folders) {
 
 void Pack(std::u16string_view archive, const std::vector<std::u16string>& files,
           const Environment& environment) {
-  static_cast<void>(environment.archiver.Add(archive, files));
+  AcumularErrorZip(static_cast<int>(environment.archiver.Add(archive, files)));
 }
 
 // What has no folder of its own is looked for in the current one.
@@ -183,6 +184,8 @@ void EntregarMensaje(const HandOff& message, std::u16string& nombreDestinatario,
         [&] { files.Replace(loose.Body(), runtime::ToBytes(text::ShortenImageReferences(message.body))); });
     CrearCarpeta(outbox, environment.folders);
     steps.Do([&] { PackAll(archive, loose, message, environment); });
+    // Packing never interrupts a hand-off, and nothing it ends with is kept: this stays silent.
+    if (const std::u16string zipErrors; !zipErrors.empty()) environment.print.prompts.Warn(zipErrors);
     steps.Do([&] { loose.Delete(); });
   }
   steps.Do([&] { StartSender(message.rutaEmail, environment); });

@@ -1,5 +1,6 @@
 #include "mail/print_job_mail.h"
 
+#include "mail/attachments.h"
 #include "mail/hand_off.h"
 #include "mail/scrambling.h"
 #include "runtime/error.h"
@@ -47,6 +48,13 @@ void Deliver(HandOff& handOff, data::MailSettings& mail, const Environment& envi
   }
 }
 
+void Compose(data::PrintJob& job, const Environment& environment, std::u16string& folder,
+             std::u16string_view file) {
+  const std::u16string ending = runtime::UCase(runtime::Right(file, 3));
+  if (ending == u"ZIP") CrearZip(job, environment, folder, file);
+  if (ending == u"PDF") CrearPdf(job, environment, folder, file);
+}
+
 }  // namespace
 
 void EnviarEmail(data::PrintJob& job, const Environment& environment) {
@@ -54,6 +62,18 @@ void EnviarEmail(data::PrintJob& job, const Environment& environment) {
   HandOff handOff = NewHandOff(job.mail, environment);
   handOff.attachments = runtime::Split(job.mail.attachments, u";");
   handOff.request.attachments = NombresAdjuntos(handOff.attachments);
+  Deliver(handOff, job.mail, environment);
+}
+
+void EmailModelo(data::PrintJob& job, const Environment& environment, std::u16string& mydir,
+                 std::u16string_view zipFile) {
+  if (mydir.empty()) mydir = environment.folders.ComponentFolder() + u"\\";
+  Compose(job, environment, mydir, zipFile);
+  if (job.mail.email.empty()) return;
+  HandOff handOff = NewHandOff(job.mail, environment);
+  handOff.attachments = {mydir + std::u16string(zipFile)};
+  handOff.request.attachments = std::u16string(zipFile) + u";";
+  handOff.goOnAfterErrors = true;
   Deliver(handOff, job.mail, environment);
 }
 

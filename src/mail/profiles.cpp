@@ -100,7 +100,7 @@ std::u16string BuscarPerfilPorDefecto(const Environment& environment) {
 }
 
 std::u16string ElegirPerfil(std::u16string_view name, const Environment& environment) {
-  const std::u16string trimmed(runtime::Trim(name));
+  std::u16string trimmed(runtime::Trim(name));
   for (const std::u16string& entry : runtime::Split(ListaPerfiles(u"", environment).names, u",")) {
     if (runtime::EqualFolded(entry, trimmed)) return trimmed;
   }

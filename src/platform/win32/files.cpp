@@ -5,6 +5,7 @@
 
 #include "platform/win32/errors.h"
 #include "platform/win32/handles.h"
+#include "platform/win32/paths.h"
 
 namespace qm::platform::win32 {
 namespace {
@@ -12,22 +13,6 @@ namespace {
 using runtime::ErrorNumber;
 
 constexpr DWORD kLargestTransfer = 16 * 1024 * 1024;
-
-// Windows takes a path beyond 247 characters only in full and with a prefix that says so.
-std::u16string SystemPath(std::u16string_view path) {
-  std::u16string given(path);
-  if (given.size() < MAX_PATH - 12 || given.starts_with(u"\\\\?\\")) return given;
-  std::u16string full(given.size() + MAX_PATH, u'\0');
-  DWORD length = GetFullPathNameW(Wide(given), static_cast<DWORD>(full.size()), WideBuffer(full), nullptr);
-  if (length > full.size()) {
-    full.resize(length);
-    length = GetFullPathNameW(Wide(given), length, WideBuffer(full), nullptr);
-  }
-  if (length == 0 || length > full.size()) return given;
-  full.resize(length);
-  if (full.starts_with(u"\\\\")) return u"\\\\?\\UNC\\" + full.substr(2);
-  return u"\\\\?\\" + full;
-}
 
 // A file's attributes, or nothing when there is none of that name.
 std::optional<DWORD> AttributesOf(const std::u16string& systemPath) {
