@@ -31,6 +31,12 @@ void Document::Adjust(const std::function<void(Layout&)>& change) {
   if (changed != layout_) Become(std::move(changed));
 }
 
+void Document::AdjustThroughout(const std::function<void(Layout&)>& change) {
+  for (Layout& earlier : undo_) change(earlier);
+  for (Layout& later : redo_) change(later);
+  Adjust(change);
+}
+
 void Document::Start(Layout layout) {
   undo_.clear();
   redo_.clear();

@@ -30,6 +30,8 @@ class Document {
   void EndGesture();
   // Not an edit: neither marks anything nor can be undone.
   void Adjust(const std::function<void(Layout&)>& change);
+  // Likewise, and also in all that undo and redo lead to: for what changed outside the layout.
+  void AdjustThroughout(const std::function<void(Layout&)>& change);
   // Another layout, with nothing to undo, not modified and nothing selected.
   void Start(Layout layout);
 
