@@ -11,26 +11,10 @@
 #include "data/picker_menus.h"
 #include "designer/canvas.h"
 #include "designer/document.h"
+#include "designer/environment.h"
 #include "designer/view.h"
-#include "model/model_file.h"
-#include "platform/dialogs.h"
-#include "platform/files.h"
-#include "platform/folders.h"
-#include "platform/pictures.h"
-#include "platform/printers.h"
-#include "platform/processes.h"
-#include "platform/spooler.h"
-#include "print/engine.h"
 
 namespace qm::designer {
-
-// The world the designer works in.
-struct Environment {
-  const print::Environment& print;
-  platform::Dialogs& dialogs;
-  platform::Folders& folders;
-  platform::Processes& processes;
-};
 
 class ModeloPrint {
  public:
