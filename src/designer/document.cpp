@@ -1,29 +1,70 @@
 #include "designer/document.h"
 
+#include <algorithm>
 #include <utility>
 
 namespace qm::designer {
+
+namespace {
+
+bool SameFields(const std::vector<FieldPointer>& a, const std::vector<FieldPointer>& b) {
+  return std::equal(a.begin(), a.end(), b.begin(), b.end(), [](const FieldPointer& x, const FieldPointer& y) {
+    return x == y || (x && y && *x == *y);
+  });
+}
+
+// Unlike the comparison of layouts, this one looks into fields and logo.
+bool SameContent(const Layout& a, const Layout& b) {
+  if (!SameFields(a.men, b.men)) return false;
+  Layout likeA = b;
+  likeA.men = a.men;
+  if (a.logo && b.logo && *a.logo == *b.logo) likeA.logo = a.logo;
+  return likeA == a;
+}
+
+}  // namespace
 
 void Document::Edit(const std::function<void(Layout&)>& change) {
   Layout changed = layout_;
   change(changed);
   if (changed == layout_) return;
   modified_ = true;
-  if (!inGesture_ || !gestureChanged_) {
-    if (undo_.size() == kMostSteps) undo_.erase(undo_.begin());
-    undo_.push_back(layout_);
-    redo_.clear();
-    gestureChanged_ = inGesture_;
-  }
+  stepGoesOn_ = !inGesture_;
+  if (!inGesture_)
+    Remember(layout_);
+  else if (!gestureStart_)
+    gestureStart_ = layout_;
   Become(std::move(changed));
+}
+
+void Document::EditFurther(const std::function<void(Layout&)>& change) {
+  if (!stepGoesOn_) return Edit(change);
+  Adjust([&](Layout& layout) {
+    change(layout);
+    modified_ = modified_ || layout != layout_;
+  });
 }
 
 void Document::BeginGesture() {
   inGesture_ = true;
-  gestureChanged_ = false;
+  stepGoesOn_ = false;
+  modifiedBeforeGesture_ = modified_;
+  gestureStart_.reset();
 }
 
-void Document::EndGesture() { inGesture_ = gestureChanged_ = false; }
+void Document::EndGesture() {
+  inGesture_ = stepGoesOn_ = false;
+  if (gestureStart_ && !SameContent(*gestureStart_, layout_)) Remember(std::move(*gestureStart_));
+  gestureStart_.reset();
+}
+
+void Document::CancelGesture() {
+  inGesture_ = stepGoesOn_ = false;
+  if (!gestureStart_) return;
+  modified_ = modifiedBeforeGesture_;
+  Become(std::move(*gestureStart_));
+  gestureStart_.reset();
+}
 
 void Document::Adjust(const std::function<void(Layout&)>& change) {
   Layout changed = layout_;
@@ -40,7 +81,8 @@ void Document::AdjustThroughout(const std::function<void(Layout&)>& change) {
 void Document::Start(Layout layout) {
   undo_.clear();
   redo_.clear();
-  EndGesture();
+  inGesture_ = false;
+  gestureStart_.reset();
   Select(0);
   Become(std::move(layout));
   modified_ = false;
@@ -52,6 +94,7 @@ bool Document::Undo() {
   Layout earlier = std::move(undo_.back());
   undo_.pop_back();
   modified_ = true;
+  stepGoesOn_ = false;
   Become(std::move(earlier));
   return true;
 }
@@ -62,6 +105,7 @@ bool Document::Redo() {
   Layout later = std::move(redo_.back());
   redo_.pop_back();
   modified_ = true;
+  stepGoesOn_ = false;
   Become(std::move(later));
   return true;
 }
@@ -69,11 +113,19 @@ bool Document::Redo() {
 void Document::Select(int index) {
   selected_ = index;
   logoSelected_ = false;
+  stepGoesOn_ = false;
 }
 
 void Document::SelectLogo() {
   selected_ = 0;
   logoSelected_ = true;
+  stepGoesOn_ = false;
+}
+
+void Document::Remember(Layout earlier) {
+  if (undo_.size() == kMostSteps) undo_.erase(undo_.begin());
+  undo_.push_back(std::move(earlier));
+  redo_.clear();
 }
 
 void Document::Become(Layout layout) {

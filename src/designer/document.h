@@ -4,6 +4,7 @@
 
 #include <cstddef>
 #include <functional>
+#include <optional>
 #include <vector>
 
 #include "designer/layout.h"
@@ -25,9 +26,14 @@ class Document {
 
   // One edit: marks the layout modified and is one step of undo. A change that changes nothing is none.
   void Edit(const std::function<void(Layout&)>& change);
-  // Edits from here to the end, a drag's for example, are one step. Gestures do not nest.
+  // The same, and it belongs to the step before where that was such an edit as well: a key that is held down.
+  void EditFurther(const std::function<void(Layout&)>& change);
+  // Edits from here to the end, a drag's for example, are one step; none when all is as it was before.
+  // Gestures do not nest.
   void BeginGesture();
   void EndGesture();
+  // As if the gesture had never begun, to the modified mark and what could be redone.
+  void CancelGesture();
   // Not an edit: neither marks anything nor can be undone.
   void Adjust(const std::function<void(Layout&)>& change);
   // Likewise, and also in all that undo and redo lead to: for what changed outside the layout.
@@ -51,6 +57,7 @@ class Document {
   void SelectLogo();  // and no field
 
  private:
+  void Remember(Layout earlier);
   void Become(Layout layout);
 
   static constexpr std::size_t kMostSteps = 500;
@@ -59,7 +66,9 @@ class Document {
   std::vector<Layout> undo_;
   std::vector<Layout> redo_;
   bool inGesture_ = false;
-  bool gestureChanged_ = false;
+  bool modifiedBeforeGesture_ = false;
+  std::optional<Layout> gestureStart_;  // once something changed
+  bool stepGoesOn_ = false;             // an edit came last, with the same selection
   bool modified_ = false;
   int selected_ = 0;
   bool logoSelected_ = false;
