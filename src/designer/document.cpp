@@ -75,6 +75,7 @@ void Document::Adjust(const std::function<void(Layout&)>& change) {
 void Document::AdjustThroughout(const std::function<void(Layout&)>& change) {
   for (Layout& earlier : undo_) change(earlier);
   for (Layout& later : redo_) change(later);
+  if (gestureStart_) change(*gestureStart_);
   Adjust(change);
 }
 
