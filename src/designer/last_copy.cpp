@@ -17,7 +17,8 @@ constexpr Text kFolders[] = {u"\\TALVO", u"\\Modelos"};
 std::u16string Hash(Text path) {
   std::uint64_t hash = 0xCBF29CE484222325U;
   for (const char16_t unit : runtime::UCase(path))
-    for (const unsigned byte : {unit & 0xFFU, unit >> 8U}) hash = (hash ^ byte) * 0x100000001B3U;
+    for (const std::uint64_t byte : {unit & 0xFFU, static_cast<unsigned>(unit) >> 8U})
+      hash = (hash ^ byte) * 0x100000001B3U;
   std::u16string digits;
   for (int shift = 60; shift >= 0; shift -= 4) digits += u"0123456789abcdef"[(hash >> shift) & 0xFU];
   return digits;

@@ -54,7 +54,7 @@ class AttributeReader {
     Text attribute;
     Member read;
   };
-  static const Entry kAttributes[];
+  static const std::array<Entry, 7> kAttributes;
 
   void ReadWidth(Text text) { layout_.ancho = BoxText(text::ParseNumber(text, locale_), locale_); }
   void ReadHeight(Text text) { layout_.alto = BoxText(text::ParseNumber(text, locale_), locale_); }
@@ -69,12 +69,15 @@ class AttributeReader {
   const LoadPicture& load_;
 };
 
-const AttributeReader::Entry AttributeReader::kAttributes[] = {
-    {u"Width", &AttributeReader::ReadWidth},           {u"Height", &AttributeReader::ReadHeight},
-    {u"Copias", &AttributeReader::ReadCopias},         {u"Printer", &AttributeReader::ReadPrinter},
-    {u"EsEtiqueta", &AttributeReader::ReadEsEtiqueta}, {u"Imagen", &AttributeReader::ReadImagen},
+const std::array<AttributeReader::Entry, 7> AttributeReader::kAttributes = {{
+    {u"Width", &AttributeReader::ReadWidth},
+    {u"Height", &AttributeReader::ReadHeight},
+    {u"Copias", &AttributeReader::ReadCopias},
+    {u"Printer", &AttributeReader::ReadPrinter},
+    {u"EsEtiqueta", &AttributeReader::ReadEsEtiqueta},
+    {u"Imagen", &AttributeReader::ReadImagen},
     {u"ImagenLogo", &AttributeReader::ReadImagenLogo},
-};
+}};
 
 // "3" selects "03"; a number that the selector does not offer stays as it is written.
 void AttributeReader::ReadCopias(Text text) {
@@ -213,7 +216,8 @@ LoadedModel ReadLayout(const model::ModelTexts& model, const Layout& former, con
   Layout& layout = loaded.layout;
   AttributeReader reader(layout, locale, load);
   for (const model::Property& attribute : model.attributes) reader.Read(attribute);
-  loaded.tooLarge = SetPageSize(layout, CentimetresOf(layout.ancho, locale), CentimetresOf(layout.alto, locale));
+  loaded.tooLarge =
+      SetPageSize(layout, CentimetresOf(layout.ancho, locale), CentimetresOf(layout.alto, locale));
 
   Field field;
   for (const auto& elements : model.fields) {
@@ -233,8 +237,8 @@ model::ModelToSave ModelOf(const Layout& layout, std::int16_t numero, std::u16st
   model.esEtiqueta = layout.esEtiqueta;
   model.imagen = SavedName(layout.imagen, imageFolder);
   if (const Logo* logo = layout.logo.get())
-    model.imagenLogo = {SavedName(logo->archivo, imageFolder), logo->box.left, logo->box.top,
-                        logo->box.width, logo->box.height};
+    model.imagenLogo = {SavedName(logo->archivo, imageFolder), logo->box.left, logo->box.top, logo->box.width,
+                        logo->box.height};
   for (std::size_t key = 1; key < layout.men.size(); ++key)
     if (const Field* field = layout.men[key].get())
       model.fields.push_back(FieldOf(*field, static_cast<int>(key)));

@@ -28,8 +28,8 @@ std::int16_t ShownFirst(std::int16_t numeroModelo) {
 }
 
 print::Environment WithModelFile(const print::Environment& environment, const model::ModelFile& modelFile) {
-  return {environment.files,    environment.printers,   environment.spooler, environment.pictures,
-          environment.prompts,  environment.settings,   environment.clock,   modelFile,
+  return {environment.files,      environment.printers, environment.spooler, environment.pictures,
+          environment.prompts,    environment.settings, environment.clock,   modelFile,
           environment.paperForms, environment.locale};
 }
 
@@ -127,8 +127,7 @@ bool ModeloPrint::CheckModificado() {
   if (!document_.Modified()) return true;
   bool wanted = false;
   const bool asked = Guarded([&] {
-    wanted = environment_.dialogs.Confirm(
-        u"Se ha modificado el modelo... ¿desea grabar las modificaciones?");
+    wanted = environment_.dialogs.Confirm(u"Se ha modificado el modelo... ¿desea grabar las modificaciones?");
   });
   return asked && (!wanted || SaveFileData());
 }
@@ -158,9 +157,8 @@ void ModeloPrint::Load(std::int16_t numero) {
     throw;
   }
   if (!texts) return unread_.reset();
-  LoadedModel loaded = ReadLayout(*texts, document_.Current(), print_.locale, [&](Text name) {
-    return images_.LoadOrTell(images_.PathOf(name));
-  });
+  LoadedModel loaded = ReadLayout(*texts, document_.Current(), print_.locale,
+                                  [&](Text name) { return images_.LoadOrTell(images_.PathOf(name)); });
   document_.Start(std::move(loaded.layout));
   unread_.reset();
   canvas_.ScrollTo(0, 0);
@@ -198,8 +196,8 @@ bool ModeloPrint::SaveFileData() {
 void ModeloPrint::Save() {
   if (unread_) throw *unread_;
   lastCopy_.Keep(print_.files.Read(modelFile_.name).value_or(std::string()));
-  model::SaveModel(print_.files, modelFile_.name,
-                   ModelOf(document_.Current(), numero_, modelFile_.folder), print_.locale);
+  model::SaveModel(print_.files, modelFile_.name, ModelOf(document_.Current(), numero_, modelFile_.folder),
+                   print_.locale);
   document_.ClearModified();
   lastCopy_.Keep(print_.files.Read(modelFile_.name).value_or(std::string()));
 }

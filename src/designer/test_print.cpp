@@ -42,9 +42,8 @@ void PrintCaption(const Field& field, platform::Surface& surface) {
                    .underline = field.font.underline,
                    .strikethru = field.font.strikethru});
   surface.SetForeColor(field.font.foreColor);
-  surface.PrintText({field.box.left, field.box.top}, text::HasDigit(field.font.name)
-                                                         ? text::ToOemLetters(field.caption)
-                                                         : field.caption);
+  surface.PrintText({field.box.left, field.box.top},
+                    text::HasDigit(field.font.name) ? text::ToOemLetters(field.caption) : field.caption);
 }
 
 }  // namespace
