@@ -14,18 +14,27 @@ struct Shape {
 };
 
 // A diskette, a printer with a sheet above and one below, a sheet with its measures.
-constexpr Shape kDiskette[] = {{2, 2, 18, 18, false},   {3.25, 3.25, 16.75, 16.75, true},
-                               {6, 2, 14, 8, false},    {7.25, 3.25, 12.75, 6.75, true},
-                               {10.5, 3.5, 12, 6.5, false}, {5, 11, 15, 18, false},
-                               {6.25, 12.25, 13.75, 16.75, true}, {7.5, 13.5, 12.5, 14.5, false},
+constexpr Shape kDiskette[] = {{2, 2, 18, 18, false},
+                               {3.25, 3.25, 16.75, 16.75, true},
+                               {6, 2, 14, 8, false},
+                               {7.25, 3.25, 12.75, 6.75, true},
+                               {10.5, 3.5, 12, 6.5, false},
+                               {5, 11, 15, 18, false},
+                               {6.25, 12.25, 13.75, 16.75, true},
+                               {7.5, 13.5, 12.5, 14.5, false},
                                {7.5, 15.25, 12.5, 16.25, false}};
-constexpr Shape kPrinter[] = {{5, 2, 15, 9, false},     {6.25, 3.25, 13.75, 8, true},
-                              {2, 7, 18, 15, false},    {3.25, 8.25, 16.75, 13.75, true},
-                              {13.5, 9.5, 15.25, 11, false}, {5, 11.5, 15, 18.5, false},
-                              {6.25, 12.75, 13.75, 17.25, true}, {7.5, 14, 12.5, 15, false}};
-constexpr Shape kPaper[] = {{5, 2, 18, 18, false},  {6.25, 3.25, 16.75, 16.75, true}, {8.5, 6, 14.5, 7, false},
-                            {8.5, 9, 14.5, 10, false}, {8.5, 12, 12.5, 13, false},    {1.5, 2, 3, 18, false},
-                            {1, 2, 3.5, 3, false},  {1, 17, 3.5, 18, false}};
+constexpr Shape kPrinter[] = {{5, 2, 15, 9, false},
+                              {6.25, 3.25, 13.75, 8, true},
+                              {2, 7, 18, 15, false},
+                              {3.25, 8.25, 16.75, 13.75, true},
+                              {13.5, 9.5, 15.25, 11, false},
+                              {5, 11.5, 15, 18.5, false},
+                              {6.25, 12.75, 13.75, 17.25, true},
+                              {7.5, 14, 12.5, 15, false}};
+constexpr Shape kPaper[] = {{5, 2, 18, 18, false},      {6.25, 3.25, 16.75, 16.75, true},
+                            {8.5, 6, 14.5, 7, false},   {8.5, 9, 14.5, 10, false},
+                            {8.5, 12, 12.5, 13, false}, {1.5, 2, 3, 18, false},
+                            {1, 2, 3.5, 3, false},      {1, 17, 3.5, 18, false}};
 
 constexpr int kGrid = 20;
 constexpr int kFiner = 4;  // samples a pixel, in either direction

@@ -22,9 +22,9 @@ struct Item {
 constexpr Item kArchivo[] = {{kNuevo, L"&Nuevo"}, {kGuardarComo, L"&Guardar Como"}, {kSalir, L"&Salir"}};
 constexpr Item kEditar[] = {
     {kEliminar, L"Eliminar"}, {kPropiedades, L"&Propiedades"}, {kEditImagen, L"&Imagen"}};
-constexpr Item kCopiar[] = {{kProp, L"&Top"},         {kProp + 1, L"&Left"},
-                            {kProp + 2, L"&Width"},   {kProp + 3, L"&Height"},
-                            {kProp + 4, L"&Fuente"},  {kProp + 5, L"&Seleccionar Propiedades"}};
+constexpr Item kCopiar[] = {{kProp, L"&Top"},        {kProp + 1, L"&Left"},
+                            {kProp + 2, L"&Width"},  {kProp + 3, L"&Height"},
+                            {kProp + 4, L"&Fuente"}, {kProp + 5, L"&Seleccionar Propiedades"}};
 constexpr Item kImagen[] = {{kImagenes, L"Imagen de Fondo"},
                             {kImagenes + 1, L"Logotipo"},
                             {0, nullptr},
@@ -109,6 +109,7 @@ constexpr Action kActions[] = {
     {kGrabar, [](ModeloPrint& presenter) { presenter.Grabar(); }},
     {kImprimirPrueba, [](ModeloPrint& presenter) { presenter.ImprimirPrueba(); }},
     {kElegirPapel, [](ModeloPrint& presenter) { presenter.ElegirPapel_Click(); }},
+    {kTamañoPapel, [](ModeloPrint& presenter) { presenter.ElegirPapel_Click(); }},
 };
 
 }  // namespace

@@ -26,7 +26,8 @@ enum Command : int {
   kImagenes = 140,  // to 143, without the separator 142
   kGrabar = 150,
   kImprimirPrueba,
-  kElegirPapel,
+  kElegirPapel,  // beside the page size
+  kTamañoPapel,  // in the toolbar
   kFirstField = 1000,
 };
 

@@ -163,7 +163,8 @@ void PageView::FollowMarks() {
   const RECT sight = InSight();
   for (const Guide& guide : TheCanvas().Guides()) {
     const LONG at = transform.Pixels(guide.position);
-    add(guide.vertical ? RECT{at, sight.top, at + 1, sight.bottom} : RECT{sight.left, at, sight.right, at + 1});
+    add(guide.vertical ? RECT{at, sight.top, at + 1, sight.bottom}
+                       : RECT{sight.left, at, sight.right, at + 1});
   }
 }
 
@@ -273,6 +274,7 @@ Answer PageView::OnPaint(WPARAM, LPARAM) {
   const SelectedObject selected(memory.Get(), buffer_->Handle());
   BitBlt(painting.dc, area.left, area.top, WidthOf(area), HeightOf(area), memory.Get(), area.left, area.top,
          SRCCOPY);
+  failing_ = false;
   return 0;
 }
 

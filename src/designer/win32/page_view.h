@@ -2,7 +2,10 @@
 // The viewport BasePin with the page canvas Fot: one window that draws the page, twice buffered, and hands
 // mouse and keyboard to the presenter.
 
+#include <exception>
 #include <memory>
+#include <optional>
+#include <utility>
 
 #include "designer/modelo_print.h"
 #include "designer/win32/page_painter.h"
@@ -28,6 +31,7 @@ class PageView final : public Window {
   void PlaceChanged();
   // Draws a part of the page that is not in sight yet; false when all that memory is meant for is drawn.
   bool DrawAhead();
+  [[nodiscard]] std::exception_ptr TakeFailure() { return std::exchange(failure_, nullptr); }
   void Wheel(WPARAM wide);
 
   // What of the page lies at a point of the view, and the way back.
@@ -84,6 +88,8 @@ class PageView final : public Window {
   PagePainter painter_;
   TileCache tiles_;
   std::unique_ptr<Bitmap32> buffer_;
+  std::exception_ptr failure_;
+  bool failing_ = false;  // since it could last paint
   // The field that is being moved lies upon the squares instead of in them, so that a step redraws it alone.
   int lifted_ = 0;
   RECT marks_{};  // where handles, guide lines and the selected logo's frame were last drawn; of the page

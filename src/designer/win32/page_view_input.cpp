@@ -38,7 +38,12 @@ Answer PageView::Receive(UINT message, WPARAM wide, LPARAM parameter) {
   return Dispatch(*this, kMessages, message, wide, parameter);
 }
 
-void PageView::Failed() noexcept { PostMessageW(GetParent(Handle()), kFailure, 0, 0); }
+// Once, not at every attempt to paint.
+void PageView::Failed() noexcept {
+  if (std::exchange(failing_, true)) return;
+  failure_ = std::current_exception();
+  PostMessageW(GetParent(Handle()), kFailure, 0, 0);
+}
 
 Answer PageView::OnLeftDown(WPARAM, LPARAM parameter) {
   SetFocus(Handle());
@@ -130,7 +135,8 @@ Answer PageView::OnKeyDown(WPARAM wide, LPARAM parameter) {
     if (wide == VK_SHIFT || wide == VK_CONTROL) MouseMovedOrKeyChanged();
     return 0;
   }
-  return PressCanvasKey(presenter_, static_cast<UINT>(wide), (parameter & 1 << 30) != 0) ? Answer(0) : Answer();
+  return PressCanvasKey(presenter_, static_cast<UINT>(wide), (parameter & 1 << 30) != 0) ? Answer(0)
+                                                                                         : Answer();
 }
 
 Answer PageView::OnKeyUp(WPARAM wide, LPARAM) {
@@ -149,7 +155,8 @@ Answer PageView::OnContextMenu(WPARAM, LPARAM parameter) {
 // The Tab key walks the fields; where there is none it leaves.
 Answer PageView::OnGetDialogCode(WPARAM, LPARAM) {
   const auto& men = Current().men;
-  const bool hasFields = std::any_of(men.begin(), men.end(), [](const FieldPointer& field) { return field != nullptr; });
+  const bool hasFields =
+      std::any_of(men.begin(), men.end(), [](const FieldPointer& field) { return field != nullptr; });
   return hasFields ? DLGC_WANTALLKEYS : DLGC_WANTARROWS;
 }
 

@@ -59,8 +59,8 @@ void DrawStretched(Bitmap32& target, POINT corner, const RECT& place, const Bitm
   const std::vector<Span> rows =
       Spans(part.top, part.bottom, place.top, place.bottom - place.top, picture.Height());
   for (std::size_t y = 0; y < rows.size(); ++y) {
-    Pixel* pixel = target.Row(static_cast<int>(part.top - corner.y) + static_cast<int>(y)) +
-                   (part.left - corner.x);
+    Pixel* pixel =
+        target.Row(static_cast<int>(part.top - corner.y) + static_cast<int>(y)) + (part.left - corner.x);
     for (const Span& column : columns) *pixel++ = Mean(picture, column, rows[y]);
   }
 }

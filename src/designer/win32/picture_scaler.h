@@ -8,6 +8,7 @@
 namespace qm::designer::win32 {
 
 // The target's top-left corner and the place are in pixels of the page.
-void DrawStretched(Bitmap32& target, POINT corner, const RECT& place, const platform::win32::Bitmap24& picture);
+void DrawStretched(Bitmap32& target, POINT corner, const RECT& place,
+                   const platform::win32::Bitmap24& picture);
 
 }  // namespace qm::designer::win32
