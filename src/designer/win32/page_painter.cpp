@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "designer/box_marks.h"
+#include "data/value_lookup.h"
 #include "designer/win32/palette.h"
 #include "designer/win32/picture_scaler.h"
 #include "platform/win32/pictures.h"
@@ -15,6 +15,7 @@ using platform::win32::SelectedObject;
 
 constexpr double kTwipsPerPoint = 20;
 constexpr int kShadow = 4;
+constexpr int kPrinterDpi = 600;
 
 platform::Font FontOf(const FieldFont& font) {
   return {.name = font.name,
@@ -83,13 +84,6 @@ class PagePainter::FieldSurface : public platform::Surface {
     return printed_ < Visible(field.caption) || widest_ > field.box.width;
   }
   void Draw() { (void)canvas_.DrawTexts(); }
-  [[nodiscard]] double LineHeight(const Field& field) {
-    canvas_.SetFont(FontOf(field.font));
-    const double height = canvas_.Measure(u"X").height;
-    canvas_.SetFont(printer_.SurfaceFont());
-    return height;
-  }
-
   [[nodiscard]] platform::Font CurrentFont() const override { return canvas_.CurrentFont(); }
   void SetFont(const platform::Font& font) override { canvas_.SetFont(font); }
   void SetForeColor(std::int32_t color) override { canvas_.SetForeColor(color); }
@@ -113,7 +107,11 @@ class PagePainter::FieldSurface : public platform::Surface {
 };
 
 PagePainter::PagePainter(platform::Files& files, platform::Pictures& pictures)
-    : files_(files), pictures_(pictures), dc_(CreateCompatibleDC(nullptr)) {
+    : files_(files),
+      pictures_(pictures),
+      dc_(CreateCompatibleDC(nullptr)),
+      printer_(std::make_unique<FieldSurface>(dc_.Get(), PageTransform(kPrinterDpi), files, pictures)),
+      marks_(std::make_unique<BoxMarks>(*printer_)) {
   SetTransform(transform_);
 }
 
@@ -152,7 +150,7 @@ void PagePainter::DrawPage(Bitmap32& target, POINT corner, const Layout& layout)
 
 void PagePainter::AddField(Bitmap32& target, POINT corner, const Layout& layout, const Field& field) {
   const RECT box = Moved(transform_.PixelsOf(field.box), corner);
-  if (NeedsTint(layout, field, surface_->LineHeight(field))) target.Tint(box, PixelOf(kTint), kTintPercent);
+  if (marks_->Of(layout, field) != BoxMark::None) target.Tint(box, PixelOf(kTint), kTintPercent);
   surface_->Add(field);
   if (Visible(field.caption) == 0 || surface_->IsCut(field))
     target.Outline(box, PixelOf(kFaintOutline), true);

@@ -5,6 +5,7 @@
 
 #include <memory>
 
+#include "designer/box_marks.h"
 #include "designer/win32/bitmap32.h"
 #include "designer/win32/page_transform.h"
 #include "platform/files.h"
@@ -42,6 +43,8 @@ class PagePainter {
   platform::Pictures& pictures_;
   PageTransform transform_;
   platform::win32::OwnedDc dc_;
+  std::unique_ptr<FieldSurface> printer_;  // measures as one does
+  std::unique_ptr<BoxMarks> marks_;
   std::unique_ptr<FieldSurface> surface_;
 };
 

@@ -9,6 +9,12 @@
 namespace qm::designer::win32 {
 namespace {
 
+// Windows' own pointers by their numbers.
+constexpr int kArrow = 32512;
+constexpr int kCross = 32515;
+constexpr int kSizeWestEast = 32644;
+constexpr int kSizeNorthSouth = 32645;
+
 constexpr int kWheelTwips = 720;  // of the screen, a notch of the wheel
 
 }  // namespace
@@ -111,14 +117,14 @@ Answer PageView::OnSetCursor(WPARAM, LPARAM parameter) {
   POINT mouse{};
   GetCursorPos(&mouse);
   ScreenToClient(Handle(), &mouse);
-  static constexpr std::pair<Pointer, const wchar_t*> kPointers[] = {
-      {Pointer::Arrow, MAKEINTRESOURCEW(32512)},
-      {Pointer::SizeNorthSouth, MAKEINTRESOURCEW(32645)},
-      {Pointer::SizeWestEast, MAKEINTRESOURCEW(32644)},
-      {Pointer::Corner, MAKEINTRESOURCEW(32515)}};
+  static constexpr std::pair<Pointer, int> kPointers[] = {
+      {Pointer::Arrow, kArrow},
+      {Pointer::SizeNorthSouth, kSizeNorthSouth},
+      {Pointer::SizeWestEast, kSizeWestEast},
+      {Pointer::Corner, kCross}};
   const Pointer wanted = TheCanvas().PointerAt(ToPage(mouse));
   for (const auto& [pointer, resource] : kPointers)
-    if (pointer == wanted) SetCursor(LoadCursorW(nullptr, resource));
+    if (pointer == wanted) SetCursor(LoadCursorW(nullptr, MAKEINTRESOURCEW(resource)));
   return TRUE;
 }
 
