@@ -100,7 +100,7 @@ void Canvas::Move(platform::Point at, bool leftHeld, Modifiers modifiers) {
   guides_.clear();
   const float tolerance = kSnapDistance / static_cast<float>(Zoom());
   const Box box = drag_->BoxAt(at, modifiers, document_.Current(), tolerance, guides_);
-  Place(drag_->Field(), box, false);
+  document_.Edit([&](Layout& layout) { SetBox(layout, drag_->Field(), box); });
   view_.MarksChanged();
   ShowReadout(box);
 }
@@ -172,7 +172,7 @@ void Canvas::ArrowKey(Direction direction, Modifiers modifiers, bool repeated) {
   }
   const Box box = modifiers.shift ? Sized(*selected, x, y) : Moved(*selected, x, y);
   handlesOf_ = document_.Selected();
-  Place(handlesOf_, box, repeated);
+  document_.EditInRun([&](Layout& layout) { SetBox(layout, handlesOf_, box); }, repeated);
   view_.MarksChanged();
   ShowReadout(box);
   Reveal(box);
@@ -240,14 +240,6 @@ const Box* Canvas::BoxOf(int index) const {
 const Box* Canvas::SelectedBox() const {
   if (document_.Selected() == 0 && !document_.LogoSelected()) return nullptr;
   return BoxOf(document_.Selected());
-}
-
-void Canvas::Place(int index, const Box& box, bool goesOn) {
-  const auto change = [index, &box](Layout& layout) { SetBox(layout, index, box); };
-  if (goesOn)
-    document_.EditFurther(change);
-  else
-    document_.Edit(change);
 }
 
 void Canvas::ShowReadout(const Box& box) { view_.ShowReadout(Readout(box, locale_)); }

@@ -75,7 +75,6 @@ class Canvas {
   // The field of that index, or the logo for 0.
   [[nodiscard]] const Box* BoxOf(int index) const;
   [[nodiscard]] const Box* SelectedBox() const;
-  void Place(int index, const Box& box, bool goesOn);
   void ShowReadout(const Box& box);
   void Reveal(Box box);
 

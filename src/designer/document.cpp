@@ -7,59 +7,67 @@ namespace qm::designer {
 
 namespace {
 
-bool SameFields(const std::vector<FieldPointer>& a, const std::vector<FieldPointer>& b) {
-  return std::equal(a.begin(), a.end(), b.begin(), b.end(), [](const FieldPointer& x, const FieldPointer& y) {
-    return x == y || (x && y && *x == *y);
-  });
+template <class Part>
+void ShareEqual(std::shared_ptr<const Part>& part, const std::shared_ptr<const Part>& earlier) {
+  if (part != earlier && part && earlier && *part == *earlier) part = earlier;
 }
 
-// Unlike the comparison of layouts, this one looks into fields and logo.
-bool SameContent(const Layout& a, const Layout& b) {
-  if (!SameFields(a.men, b.men)) return false;
-  Layout likeA = b;
-  likeA.men = a.men;
-  if (a.logo && b.logo && *a.logo == *b.logo) likeA.logo = a.logo;
-  return likeA == a;
+// Fields and logo that are as they were become the same objects again, so that layouts compare by content.
+void ShareEqualParts(Layout& layout, const Layout& earlier) {
+  ShareEqual(layout.logo, earlier.logo);
+  const std::size_t common = std::min(layout.men.size(), earlier.men.size());
+  for (std::size_t i = 0; i < common; ++i) ShareEqual(layout.men[i], earlier.men[i]);
 }
 
 }  // namespace
 
 void Document::Edit(const std::function<void(Layout&)>& change) {
-  Layout changed = layout_;
-  change(changed);
-  if (changed == layout_) return;
-  modified_ = true;
-  stepGoesOn_ = !inGesture_;
-  if (!inGesture_)
-    Remember(layout_);
-  else if (!gestureStart_)
-    gestureStart_ = layout_;
-  Become(std::move(changed));
+  inRun_ = false;
+  Apply(change);
 }
 
-void Document::EditFurther(const std::function<void(Layout&)>& change) {
-  if (!stepGoesOn_) return Edit(change);
+void Document::EditInRun(const std::function<void(Layout&)>& change, bool goesOn) {
+  if (!goesOn || !inRun_) {
+    inRun_ = Apply(change) && !inGesture_;
+    return;
+  }
   Adjust([&](Layout& layout) {
     change(layout);
     modified_ = modified_ || layout != layout_;
   });
 }
 
+bool Document::Apply(const std::function<void(Layout&)>& change) {
+  Layout changed = layout_;
+  change(changed);
+  ShareEqualParts(changed, layout_);
+  if (changed == layout_) return false;
+  modified_ = true;
+  if (!inGesture_)
+    Remember(layout_);
+  else if (!gestureStart_)
+    gestureStart_ = layout_;
+  Become(std::move(changed));
+  return true;
+}
+
 void Document::BeginGesture() {
   inGesture_ = true;
-  stepGoesOn_ = false;
+  inRun_ = false;
   modifiedBeforeGesture_ = modified_;
   gestureStart_.reset();
 }
 
 void Document::EndGesture() {
-  inGesture_ = stepGoesOn_ = false;
-  if (gestureStart_ && !SameContent(*gestureStart_, layout_)) Remember(std::move(*gestureStart_));
+  inGesture_ = inRun_ = false;
+  if (!gestureStart_) return;
+  ShareEqualParts(*gestureStart_, layout_);
+  if (*gestureStart_ != layout_) Remember(std::move(*gestureStart_));
   gestureStart_.reset();
 }
 
 void Document::CancelGesture() {
-  inGesture_ = stepGoesOn_ = false;
+  inGesture_ = inRun_ = false;
   if (!gestureStart_) return;
   modified_ = modifiedBeforeGesture_;
   Become(std::move(*gestureStart_));
@@ -95,7 +103,7 @@ bool Document::Undo() {
   Layout earlier = std::move(undo_.back());
   undo_.pop_back();
   modified_ = true;
-  stepGoesOn_ = false;
+  inRun_ = false;
   Become(std::move(earlier));
   return true;
 }
@@ -106,7 +114,7 @@ bool Document::Redo() {
   Layout later = std::move(redo_.back());
   redo_.pop_back();
   modified_ = true;
-  stepGoesOn_ = false;
+  inRun_ = false;
   Become(std::move(later));
   return true;
 }
@@ -114,13 +122,13 @@ bool Document::Redo() {
 void Document::Select(int index) {
   selected_ = index;
   logoSelected_ = false;
-  stepGoesOn_ = false;
+  inRun_ = false;
 }
 
 void Document::SelectLogo() {
   selected_ = 0;
   logoSelected_ = true;
-  stepGoesOn_ = false;
+  inRun_ = false;
 }
 
 void Document::Remember(Layout earlier) {

@@ -26,8 +26,9 @@ class Document {
 
   // One edit: marks the layout modified and is one step of undo. A change that changes nothing is none.
   void Edit(const std::function<void(Layout&)>& change);
-  // The same, and it belongs to the step before where that was such an edit as well: a key that is held down.
-  void EditFurther(const std::function<void(Layout&)>& change);
+  // One edit of a run, as a key makes that is held down: when it goes on, it belongs to the step of the edit
+  // before, provided that was of a run as well and nothing else came between.
+  void EditInRun(const std::function<void(Layout&)>& change, bool goesOn);
   // Edits from here to the end, a drag's for example, are one step; none when all is as it was before.
   // Gestures do not nest.
   void BeginGesture();
@@ -57,6 +58,7 @@ class Document {
   void SelectLogo();  // and no field
 
  private:
+  bool Apply(const std::function<void(Layout&)>& change);
   void Remember(Layout earlier);
   void Become(Layout layout);
 
@@ -68,7 +70,7 @@ class Document {
   bool inGesture_ = false;
   bool modifiedBeforeGesture_ = false;
   std::optional<Layout> gestureStart_;  // once something changed
-  bool stepGoesOn_ = false;             // an edit came last, with the same selection
+  bool inRun_ = false;                  // an edit of a run came last, with the same selection
   bool modified_ = false;
   int selected_ = 0;
   bool logoSelected_ = false;

@@ -2,8 +2,6 @@
 
 #include <cmath>
 
-#include "runtime/numbers.h"
-
 namespace qm::designer {
 
 namespace {
@@ -20,8 +18,8 @@ Drag::Drag(int field, int handle, const Box& box, const Box& pressedObject, plat
       box_(box),
       handleSize_(pressedObject.width),
       pressed_(pressed),
-      startX_(runtime::CLng(pressed.x - pressedObject.left)),
-      startY_(runtime::CLng(pressed.y - pressedObject.top)) {}
+      startX_(std::nearbyint(pressed.x - pressedObject.left)),
+      startY_(std::nearbyint(pressed.y - pressedObject.top)) {}
 
 Drag Drag::Whole(int field, const Box& box, platform::Point pressed) { return {field, 0, box, box, pressed}; }
 

@@ -3,7 +3,6 @@
 // while the mouse moves, with Shift along one axis, with Ctrl snapped to the edges of the others.
 // Units: twips of the page.
 
-#include <cstdint>
 #include <optional>
 #include <vector>
 
@@ -45,8 +44,8 @@ class Drag {
   Box box_;  // of the field or the logo, before the drag
   float handleSize_;
   platform::Point pressed_;
-  std::int32_t startX_;  // the drag start point: the mouse within the object or the handle
-  std::int32_t startY_;
+  double startX_;  // the drag start point: the mouse within the object or the handle, on whole twips
+  double startY_;
   bool moved_ = false;
   std::optional<SnapLines> lines_;  // once they are needed
 };
