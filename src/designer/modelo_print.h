@@ -14,9 +14,11 @@
 #include "designer/canvas.h"
 #include "designer/document.h"
 #include "designer/environment.h"
+#include "designer/field_clipboard.h"
 #include "designer/images.h"
 #include "designer/last_copy.h"
 #include "designer/model_store.h"
+#include "designer/property_store.h"
 #include "designer/view.h"
 #include "runtime/error.h"
 
@@ -104,6 +106,8 @@ class ModeloPrint {
   Canvas canvas_;
   Images images_;
   LastCopy lastCopy_;
+  PropertyStore propertyStore_;
+  FieldClipboard fieldClipboard_;
   std::int16_t numero_;
   bool loading_ = false;
   // Why the model could not be read. What is not on the canvas must not be saved over.

@@ -47,6 +47,26 @@ void ModeloPrint::V_Propiedades_Click() {
   });
 }
 
+void ModeloPrint::prop_Click(int index) {
+  Guarded([&] { propertyStore_.Copy(document_, index, environment_.dialogs); });
+}
+
+void ModeloPrint::pegar_Click() {
+  Guarded([&] { propertyStore_.Paste(document_); });
+}
+
+void ModeloPrint::CopyField() {
+  Guarded([&] { fieldClipboard_.Copy(document_); });
+}
+
+void ModeloPrint::PasteField() {
+  Guarded([&] {
+    const Layout before = document_.Current();
+    fieldClipboard_.Paste(document_);
+    if (document_.Current() != before) canvas_.ShowHandlesOf(document_.Selected());
+  });
+}
+
 void ModeloPrint::EditImagen_Click() {
   Guarded([&] { images_.EditImagen(); });
 }
