@@ -6,6 +6,7 @@
 #include "designer/win32/keys.h"
 #include "designer/win32/tool_button.h"
 #include "platform/win32/errors.h"
+#include "platform/win32/visual_styles.h"
 
 namespace qm::designer::win32 {
 namespace {
@@ -69,6 +70,7 @@ ModeloPrintWindow::ModeloPrintWindow(const Environment& environment, const data:
     : dialogs_(environment.dialogs),
       presenter_(environment, *this, menus, numeroModelo),
       menuBar_(NewMenuBar(menus)) {
+  const platform::win32::VisualStyles currentLook;
   CreateForm(owner);
   metrics_.emplace(Handle());
   controls_ = FormControls(Handle());

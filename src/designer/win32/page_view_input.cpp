@@ -117,11 +117,10 @@ Answer PageView::OnSetCursor(WPARAM, LPARAM parameter) {
   POINT mouse{};
   GetCursorPos(&mouse);
   ScreenToClient(Handle(), &mouse);
-  static constexpr std::pair<Pointer, int> kPointers[] = {
-      {Pointer::Arrow, kArrow},
-      {Pointer::SizeNorthSouth, kSizeNorthSouth},
-      {Pointer::SizeWestEast, kSizeWestEast},
-      {Pointer::Corner, kCross}};
+  static constexpr std::pair<Pointer, int> kPointers[] = {{Pointer::Arrow, kArrow},
+                                                          {Pointer::SizeNorthSouth, kSizeNorthSouth},
+                                                          {Pointer::SizeWestEast, kSizeWestEast},
+                                                          {Pointer::Corner, kCross}};
   const Pointer wanted = TheCanvas().PointerAt(ToPage(mouse));
   for (const auto& [pointer, resource] : kPointers)
     if (pointer == wanted) SetCursor(LoadCursorW(nullptr, MAKEINTRESOURCEW(resource)));
