@@ -51,8 +51,12 @@ struct FormControls::Standing {
 };
 
 HWND FormControls::Add(const wchar_t* windowClass, const wchar_t* text, DWORD style, int id) {
+  // What lies in the frame would be cut out of the form's ground and never painted, were it not transparent.
+  const DWORD extendedStyle = id == kAncho || id == kAlto ? WS_EX_CLIENTEDGE
+                              : id == kFrame1             ? WS_EX_TRANSPARENT
+                                                          : 0;
   const HWND window = CreateWindowExW(
-      id == kAncho || id == kAlto ? WS_EX_CLIENTEDGE : 0, windowClass, text, style | WS_CHILD | WS_VISIBLE, 0,
+      extendedStyle, windowClass, text, style | WS_CHILD | WS_VISIBLE, 0,
       0, 0, 0, form_, reinterpret_cast<HMENU>(static_cast<INT_PTR>(id)), ThisModule(), nullptr);
   if (!window) platform::win32::Throw(runtime::ErrorNumber::OutOfMemory);
   if (id == 0) labels_.push_back(window);

@@ -157,8 +157,13 @@ void PageView::FollowMarks() {
     UnionRect(&marks_, &marks_, &area);
   };
   const PageTransform& transform = painter_.Transform();
-  if (const auto handles = TheCanvas().Handles())
-    for (std::size_t i = 1; i < handles->size(); ++i) add(transform.PixelsOf((*handles)[i]));
+  if (const auto handles = TheCanvas().Handles()) {
+    RECT all{};  // the corners enclose all the others
+    const RECT first = transform.PixelsOf((*handles)[1]);
+    const RECT last = transform.PixelsOf((*handles)[5]);
+    UnionRect(&all, &first, &last);
+    add(all);
+  }
   if (presenter_.TheDocument().LogoSelected() && Current().logo) add(transform.PixelsOf(Current().logo->box));
   const RECT sight = InSight();
   for (const Guide& guide : TheCanvas().Guides()) {
@@ -225,9 +230,8 @@ void PageView::Compose(const RECT& area) {
 
 void PageView::DrawHandle(const Box& box, int number) {
   const RECT area = ToView(painter_.Transform().PixelsOf(box));
-  const bool active = CanBeDragged(number);
-  buffer_->Fill(area, PixelOf(active ? kAccent : RGB(255, 255, 255)));
-  buffer_->Outline(area, PixelOf(active ? RGB(255, 255, 255) : kFaintOutline), false);
+  buffer_->Fill(area, PixelOf(CanBeDragged(number) ? kAccent : RGB(255, 255, 255)));
+  buffer_->Outline(area, PixelOf(CanBeDragged(number) ? kAccent : kFaintOutline), false);
 }
 
 void PageView::DrawMarks() {
