@@ -4,6 +4,7 @@
 #include <utility>
 
 #include "designer/win32/keys.h"
+#include "designer/win32/properties_dialog.h"
 #include "designer/win32/tool_button.h"
 #include "platform/win32/errors.h"
 #include "platform/win32/visual_styles.h"
@@ -151,7 +152,7 @@ void ModeloPrintWindow::ShowPrinters(const std::vector<std::u16string>& names, i
   shownPrinter_ = selected;
 }
 
-void ModeloPrintWindow::ShowProperties(FieldProperties&) {}
+void ModeloPrintWindow::ShowProperties(FieldProperties& properties) { ShowPropertiesDialog(properties); }
 
 // ---- Choices in the lists. While a list is open, going through it chooses nothing yet.
 
