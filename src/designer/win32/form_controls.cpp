@@ -55,9 +55,9 @@ HWND FormControls::Add(const wchar_t* windowClass, const wchar_t* text, DWORD st
   const DWORD extendedStyle = id == kAncho || id == kAlto ? WS_EX_CLIENTEDGE
                               : id == kFrame1             ? WS_EX_TRANSPARENT
                                                           : 0;
-  const HWND window = CreateWindowExW(
-      extendedStyle, windowClass, text, style | WS_CHILD | WS_VISIBLE, 0,
-      0, 0, 0, form_, reinterpret_cast<HMENU>(static_cast<INT_PTR>(id)), ThisModule(), nullptr);
+  const HWND window =
+      CreateWindowExW(extendedStyle, windowClass, text, style | WS_CHILD | WS_VISIBLE, 0, 0, 0, 0, form_,
+                      reinterpret_cast<HMENU>(static_cast<INT_PTR>(id)), ThisModule(), nullptr);
   if (!window) platform::win32::Throw(runtime::ErrorNumber::OutOfMemory);
   if (id == 0) labels_.push_back(window);
   return window;

@@ -47,6 +47,25 @@ struct WindowWorld : DesigningWorld {
                                   settings, clock,    modelFile, paperForms,   runtime::Locale::Spanish()};
   Environment world{realPrinting, dialogs, folders, processes};
   data::PickerMenus menus;
+
+  void Keep(const std::string& models) { files.contents[std::u16string(kModels)] = models; }
+  [[nodiscard]] const std::string& Kept() const { return files.contents.find(kModels)->second; }
 };
+
+// A model file with one model of the page 11340 by 5670 twips (20 by 10 cm).
+inline std::string ModelFile(const std::string& fields, const std::string& attributes = "", int number = 1) {
+  return "<Modelos><Modelo Numero=\"" + std::to_string(number) +
+         "\" Width=\"11340\" Height=\"5670\" Copias=\"1\" EsEtiqueta=\"0\" Logo=\"0\"" + attributes + ">" +
+         fields + "</Modelo></Modelos>";
+}
+
+inline std::string Campo(const std::string& descripcion, int left, int top, int width, int height) {
+  const auto element = [](const std::string& name, const std::string& text) {
+    return "<" + name + ">" + text + "</" + name + ">";
+  };
+  return "<Campo Key=\"1\">" + element("Descripcion", descripcion) + element("Top", std::to_string(top)) +
+         element("Left", std::to_string(left)) + element("Width", std::to_string(width)) +
+         element("Height", std::to_string(height)) + "</Campo>";
+}
 
 }  // namespace qm::designer::win32
