@@ -28,7 +28,7 @@ TEST(CrearZip, MakesTheBitmapOfThePageAndAnArchiveInTheFolder) {
   AttachmentWorld world;
   EXPECT_EQ(world.CrearZip(u"C:\\Salida\\", u"fra.zip"), 0);
   EXPECT_EQ(world.files.contents[kBitmap], "BMP\npage 3000x3000\n1000,100 Se\xC3\xB1or\n1000,400 Total\n");
-  EXPECT_EQ(world.folders.current, u"C:\\Salida\\");
+  EXPECT_EQ(world.folders.currentFolder, u"C:\\Salida\\");
   EXPECT_THAT(world.archiver.runs,
               ElementsAre(RecordedArchiver::Run{u"C:\\Salida\\fra.zip", {u"C:\\Salida\\EFactura.bmp"}}));
   EXPECT_THAT(world.prompts.warnings, IsEmpty());
