@@ -1,11 +1,12 @@
 #pragma once
-// The installed printers, and a printer as a drawing surface.
+// The installed printers, what they offer, and a printer as a drawing surface.
 // Units:  twips.
 // Errors: RuntimeError 482 when a printer cannot be opened or fails.
 // Implemented by win32/printers and the tests' FakePrinters.
 
 #include <cstdint>
 #include <memory>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -22,6 +23,13 @@ struct Paper {
   std::u16string formName;
   double widthTwips = 0;
   double heightTwips = 0;
+};
+
+struct PageSize {
+  double widthTwips = 0;
+  double heightTwips = 0;
+
+  bool operator==(const PageSize&) const = default;
 };
 
 // One print job at a time: the first text or picture starts the job, NewPage ends its page and begins the
@@ -41,6 +49,15 @@ class Printers {
   [[nodiscard]] virtual std::vector<std::u16string> DeviceNames() = 0;  // in the system's order
   [[nodiscard]] virtual std::unique_ptr<PrinterSurface> Open(std::u16string_view deviceName) = 0;
   [[nodiscard]] virtual std::unique_ptr<PrinterSurface> OpenDefault() = 0;
+
+  // The names of the faces on offer, in the printer's own order.
+  [[nodiscard]] virtual std::vector<std::u16string> FontNames(std::u16string_view deviceName) = 0;
+  // The codes of the papers that the printer takes.
+  [[nodiscard]] virtual std::vector<std::int16_t> PaperCodes(std::u16string_view deviceName) = 0;
+  // The whole page, with its unprintable edges, that the printer has with that paper. Nothing when it refuses
+  // the paper's code; without a code it takes what it can get by name and size.
+  [[nodiscard]] virtual std::optional<PageSize> PageOf(std::u16string_view deviceName,
+                                                       const Paper& paper) = 0;
 };
 
 }  // namespace qm::platform

@@ -20,7 +20,7 @@ class FakeFolders : public platform::Folders {
   std::u16string componentFolder = u"C:\\Programas\\Modelos";
   std::u16string localData = u"C:\\Users\\ana\\AppData\\Local";
   std::u16string userName = u"ana";
-  std::u16string current = u"C:\\Inicio";
+  std::u16string currentFolder = u"C:\\Inicio";
   std::set<std::u16string, std::less<>> existing{u"C:", u"C:\\Inicio", u"C:\\Users\\ana\\Trabajo"};
   std::set<std::u16string, std::less<>> cannotBeSet;  // as the current folder, with its final backslash
   bool makingFails = false;
@@ -38,16 +38,16 @@ class FakeFolders : public platform::Folders {
   [[nodiscard]] std::u16string LocalData() override { return localData; }
   [[nodiscard]] std::u16string UserName() override { return userName; }
 
-  [[nodiscard]] std::u16string CurrentFolder() override { return current; }
+  [[nodiscard]] std::u16string CurrentFolder() override { return currentFolder; }
   void SetCurrentFolder(std::u16string_view folder) override {
     currentSet.emplace_back(folder);
     if (cannotBeSet.contains(folder)) throw runtime::RuntimeError(runtime::ErrorNumber::PathNotFound);
-    current = folder;
-    if (current.ends_with(u'\\')) current.pop_back();
+    currentFolder = folder;
+    if (currentFolder.ends_with(u'\\')) currentFolder.pop_back();
   }
   [[nodiscard]] std::u16string FullPath(std::u16string_view path) override {
     if (path.size() > 1 && path[1] == u':') return std::u16string(path);
-    return current + u"\\" + std::u16string(path);
+    return currentFolder + u"\\" + std::u16string(path);
   }
   [[nodiscard]] bool Matches(std::u16string_view pattern) override { return existing.contains(pattern); }
   bool Make(std::u16string_view folder) override {

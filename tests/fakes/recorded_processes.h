@@ -1,6 +1,8 @@
 #pragma once
-// Programs that are never started; every start is written down. The next ones can be told to fail.
+// Programs that are never started, only written down; the next ones can be told to fail or to do something
+// while they are waited for.
 
+#include <functional>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -13,28 +15,29 @@ namespace qm::fakes {
 
 class RecordedProcesses : public platform::Processes {
  public:
-  struct Start {
+  struct Started {
     std::u16string program;
     std::u16string arguments;
-    bool hidden = false;
-
-    bool operator==(const Start&) const = default;
+    bool waitedFor = false;
+    bool operator==(const Started&) const = default;
   };
 
-  std::vector<Start> starts;
+  std::vector<Started> started;
   std::optional<runtime::ErrorNumber> failWith;
+  std::function<void()> whileRunning;  // of the programs that are waited for
 
   void StartHidden(std::u16string_view program, std::u16string_view arguments) override {
-    Record(program, arguments, true);
+    Start(program, arguments, false);
   }
   void RunAndWait(std::u16string_view program, std::u16string_view arguments) override {
-    Record(program, arguments, false);
+    Start(program, arguments, true);
+    if (whileRunning) whileRunning();
   }
 
  private:
-  void Record(std::u16string_view program, std::u16string_view arguments, bool hidden) {
+  void Start(std::u16string_view program, std::u16string_view arguments, bool waitedFor) {
     if (failWith) throw runtime::RuntimeError(*failWith);
-    starts.push_back({std::u16string(program), std::u16string(arguments), hidden});
+    started.push_back({std::u16string(program), std::u16string(arguments), waitedFor});
   }
 };
 

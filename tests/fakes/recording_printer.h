@@ -8,7 +8,9 @@
 // Texts, new pages and ends of jobs can be told to fail with 482.
 
 #include <algorithm>
+#include <map>
 #include <memory>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -83,7 +85,11 @@ class FakePrinters : public platform::Printers {
   std::vector<std::u16string> names{u"Impresora A4", u"Impresora Recibos"};
   std::u16string defaultName = u"Impresora A4";  // "": there is none
   bool listFails = false;
-  PrinterFaults faults;  // of printers opened from now on
+  PrinterFaults faults;                                                      // of printers opened from now on
+  std::map<std::u16string, std::vector<std::u16string>, std::less<>> fonts;  // by printer
+  // By printer and code. What a printer has under 0 it makes of any paper without a code.
+  std::map<std::u16string, std::map<std::int16_t, platform::PageSize>, std::less<>> papers;
+  std::vector<platform::Paper> papersAsked;
 
   FakePrinters() : log_(&ownLog_) {}
   explicit FakePrinters(std::string& log) : log_(&log) {}
@@ -97,13 +103,38 @@ class FakePrinters : public platform::Printers {
     return names;
   }
   [[nodiscard]] std::unique_ptr<platform::PrinterSurface> Open(std::u16string_view deviceName) override {
-    if (std::find(names.begin(), names.end(), deviceName) == names.end())
-      throw runtime::RuntimeError(runtime::ErrorNumber::PrinterError);
+    CheckInstalled(deviceName);
     return std::make_unique<RecordingPrinter>(deviceName, faults, *log_);
   }
   [[nodiscard]] std::unique_ptr<platform::PrinterSurface> OpenDefault() override { return Open(defaultName); }
 
+  [[nodiscard]] std::vector<std::u16string> FontNames(std::u16string_view deviceName) override {
+    CheckInstalled(deviceName);
+    const auto found = fonts.find(deviceName);
+    return found == fonts.end() ? std::vector<std::u16string>{} : found->second;
+  }
+  [[nodiscard]] std::vector<std::int16_t> PaperCodes(std::u16string_view deviceName) override {
+    CheckInstalled(deviceName);
+    std::vector<std::int16_t> codes;
+    for (const auto& [code, page] : papers[std::u16string(deviceName)])
+      if (code != 0) codes.push_back(code);
+    return codes;
+  }
+  [[nodiscard]] std::optional<platform::PageSize> PageOf(std::u16string_view deviceName,
+                                                         const platform::Paper& paper) override {
+    CheckInstalled(deviceName);
+    papersAsked.push_back(paper);
+    const auto& known = papers[std::u16string(deviceName)];
+    const auto found = known.find(paper.code);
+    return found == known.end() ? std::nullopt : std::optional(found->second);
+  }
+
  private:
+  void CheckInstalled(std::u16string_view deviceName) const {
+    if (std::find(names.begin(), names.end(), deviceName) == names.end())
+      throw runtime::RuntimeError(runtime::ErrorNumber::PrinterError);
+  }
+
   std::string ownLog_;
   std::string* log_;
 };

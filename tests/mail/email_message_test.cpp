@@ -82,9 +82,9 @@ TEST_F(SendingWithAProfile, CallsARecipientThatIsAnAddressDestinatario) {
 
 TEST_F(SendingWithAProfile, StartsTheSenderHiddenWithTheOutgoingFolder) {
   static_cast<void>(Send());
-  EXPECT_EQ(processes.starts,
-            (std::vector<fakes::RecordedProcesses::Start>{
-                {u"C:\\Program Files\\Common Files\\Quillmar\\Qmenviar.exe", u"\"C:\\Correo\\\"", true}}));
+  EXPECT_EQ(processes.started,
+            (std::vector<fakes::RecordedProcesses::Started>{
+                {u"C:\\Program Files\\Common Files\\Quillmar\\Qmenviar.exe", u"\"C:\\Correo\\\"", false}}));
 }
 
 TEST_F(SendingWithAProfile, LeavesNoLooseFilesBehind) {
@@ -110,7 +110,7 @@ TEST_F(SendingWithAProfile, ListsAttachmentsByTheirBareNamesAndPacksThemFromThei
             (Runs{{{std::u16string(kRequestPath), std::u16string(kBodyPath)}, u"C:\\Users\\ana\\Trabajo"},
                   {{u"C:\\a\\x.pdf"}, u"C:\\a"},
                   {{u"C:\\b\\y.doc"}, u"C:\\b"}}));
-  EXPECT_EQ(folders.current, u"C:\\b");  // left where packing put it
+  EXPECT_EQ(folders.currentFolder, u"C:\\b");  // left where packing put it
 }
 
 TEST_F(SendingWithAProfile, KeepsEmptyEntriesInTheLineOnly) {
@@ -126,7 +126,7 @@ TEST_F(SendingWithAProfile, GoesOnWhereAnAttachmentsFolderIsGone) {
   message.archivosAdjuntos = u"E:\\nada\\x.pdf";
   EXPECT_EQ(Send(), u"");
   EXPECT_EQ(archiver.runs[1].files[0], u"E:\\nada\\x.pdf");
-  EXPECT_EQ(processes.starts.size(), 1u);
+  EXPECT_EQ(processes.started.size(), 1u);
 }
 
 TEST_F(SendingWithAProfile, PutsTheTextIntoTheTemplateOfTheMessageOrElseOfTheProfile) {
@@ -175,7 +175,7 @@ TEST_F(SendingWithAProfile, SaysThatATextFoundNoPlaceInTheTemplate) {
   message.archivoHTML = u"C:\\html\\carta.htm";
   EXPECT_EQ(Send(), kNotice);
   EXPECT_EQ(PackedBody(), "Adjuntamos<BR>la factura");
-  EXPECT_EQ(processes.starts.size(), 1u);  // it was handed off all the same
+  EXPECT_EQ(processes.started.size(), 1u);  // it was handed off all the same
 
   message.archivoHTML.clear();
   EXPECT_EQ(Send(), kNotice);  // and says so again without a template
@@ -235,7 +235,7 @@ TEST_F(SendingWithAProfile, SaysNothingOfWhatPackingEndsWith) {
   EXPECT_EQ(Send(), u"");
   EXPECT_TRUE(prompts.warnings.empty());
   EXPECT_TRUE(LooseFilesAreGone());
-  EXPECT_EQ(processes.starts.size(), 1u);
+  EXPECT_EQ(processes.started.size(), 1u);
 }
 
 }  // namespace

@@ -113,7 +113,7 @@ struct MailWorld {
     return !files.contents.contains(kRequestPath) && !files.contents.contains(kBodyPath);
   }
   [[nodiscard]] bool NothingWasHandedOff() const {
-    return archiver.runs.empty() && processes.starts.empty() && LooseFilesAreGone();
+    return archiver.runs.empty() && processes.started.empty() && LooseFilesAreGone();
   }
 };
 

@@ -194,14 +194,14 @@ TEST_F(WithoutTheRequest, AModelGoesOnAndTellsAtTheEnd) {
   std::u16string folder = u"C:\\Docs\\";
   EXPECT_EQ(ErrorOf([&] { return EmailModelo(job, other, folder, u"f.doc"), 0; }), 50103);
   EXPECT_EQ(archiver.runs.size(), 2u);
-  EXPECT_EQ(processes.starts.size(), 1u);
+  EXPECT_EQ(processes.started.size(), 1u);
   EXPECT_FALSE(refusing.contents.contains(kBodyPath));
 }
 
 TEST_F(WithoutTheRequest, APlainMessageStopsThere) {
   EXPECT_EQ(ErrorOf([&] { return EnviarEmail(job, other), 0; }), 50103);
   EXPECT_TRUE(archiver.runs.empty());
-  EXPECT_TRUE(processes.starts.empty());
+  EXPECT_TRUE(processes.started.empty());
 }
 
 }  // namespace

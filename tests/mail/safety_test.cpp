@@ -135,7 +135,7 @@ TEST_F(HostileMessages, ShowThePasswordNowhereInPlainText) {
     if (written.path == kProfilePath) continue;
     EXPECT_EQ(written.bytes.find(plain), std::string::npos);
   }
-  for (const auto& start : processes.starts)
+  for (const auto& start : processes.started)
     EXPECT_EQ(start.arguments.find(u"Secreta"), std::u16string::npos);
 }
 
