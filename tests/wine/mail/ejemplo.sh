@@ -1,7 +1,7 @@
 #!/bin/bash
 # ejemplo.sh SENDER: the example mails its invoice.
 source "$(dirname "$0")/lib.sh"
-need bsdtar pdftotext
+need unzip pdftotext
 use_prefix hosts
 fresh_folders
 use_sender "$1"
@@ -12,8 +12,8 @@ expect_starts 1
 archives=("$QM_SCRATCH/Bandeja de Salida"/*)
 expect_equal "archives" 1 ${#archives[@]}
 expect_equal "what travels" $'EMAIL.TXT\nEMAIL.HTM\nFONDO_FACTURA.GIF\nFactura 2015-0042.pdf' \
-  "$(bsdtar -tf "${archives[0]}")"
-bsdtar -xf "${archives[0]}" -C "$QM_SCRATCH"
+  "$(unzip -Z1 "${archives[0]}")"
+unzip -q -o "${archives[0]}" -d "$QM_SCRATCH"
 cmp "$QM_SCRATCH/FONDO_FACTURA.GIF" "$QM_SOURCE_DIR/examples/fondo_factura.gif" || fail "the picture has changed"
 grep -qF "Adjuntamos su factura.<BR>Un saludo." "$QM_SCRATCH/EMAIL.HTM" || fail "the text is not in the template"
 text=$(pdftotext -layout "$QM_SCRATCH/Factura 2015-0042.pdf" -)
