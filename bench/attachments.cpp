@@ -41,6 +41,17 @@ constexpr double kRowHeight = 1200;
 constexpr double kPageWidth = 11906;
 constexpr double kPageHeight = 16838;
 
+// Files that can be told not to wait for the disk, as the plain program does not.
+class MeasuredFiles : public win32::Win32Files {
+ public:
+  bool waits = true;
+
+  void Replace(std::u16string_view path, std::string_view bytes) override {
+    if (waits) return Win32Files::Replace(path, bytes);
+    ReplaceUnflushed(path, bytes);
+  }
+};
+
 class Host {
  public:
   explicit Host(const std::vector<bench::SceneField>& scene)
@@ -52,7 +63,11 @@ class Host {
                      printing_.locale);
   }
 
-  void Make(std::u16string_view fileName) { mail::CrearZip(job_, environment_, folder_, fileName); }
+  void Make(std::u16string_view fileName, bool waits = true) {
+    files_.waits = waits;
+    mail::CrearZip(job_, environment_, folder_, fileName);
+    files_.waits = true;
+  }
   void Draw(platform::PicturePage& page) {
     mail::TextLayer texts(page);
     (void)print::Draw(job_, printing_, print::FindCurrentModel(job_, printing_), texts);
@@ -68,7 +83,7 @@ class Host {
   [[nodiscard]] std::size_t Size(std::u16string_view fileName) { return files_.Read(Path(fileName))->size(); }
 
  private:
-  win32::Win32Files files_;
+  MeasuredFiles files_;
   win32::Win32Printers printers_;
   win32::Win32Spooler spooler_;
   win32::Win32Pictures pictures_;
@@ -156,13 +171,14 @@ int main() {
   Host host(scene);
   const bench::RawScene raw(scene, 96, ANTIALIASED_QUALITY);
   const std::vector<double> times =
-      bench::FastestTurns(20, {[&] { host.Make(u"fra.pdf"); },
-                               [&] { MakeRaw(raw, host.Path(u"raw.bmp"), host.Path(u"raw.pdf")); },
-                               [&] { host.Make(u"fra.zip"); }});
+      bench::FastestTurns(40, {[&] { host.Make(u"fra.pdf"); }, [&] { host.Make(u"fra.pdf", false); },
+                               [&] { MakeRaw(raw, host.Path(u"raw.bmp"), host.Path(u"raw.pdf")); }});
+  const std::vector<double> zipTimes = bench::FastestTurns(10, {[&] { host.Make(u"fra.zip"); }});
   std::printf(
       "PDF: CrearZip %.2f ms, %zu bytes; plain program %.2f ms, %zu bytes; ratio %.2f (goal: at most 0.6)\n",
-      times[0], host.Size(u"fra.pdf"), times[1], host.Size(u"raw.pdf"), times[0] / times[1]);
-  std::printf("ZIP: CrearZip %.2f ms, %zu bytes\n", times[2], host.Size(u"fra.zip"));
+      times[0], host.Size(u"fra.pdf"), times[2], host.Size(u"raw.pdf"), times[0] / times[2]);
+  std::printf("PDF: without waiting for the disk %.2f ms, ratio %.2f\n", times[1], times[1] / times[2]);
+  std::printf("ZIP: CrearZip %.2f ms, %zu bytes\n", zipTimes[0], host.Size(u"fra.zip"));
   TimeParts(host);
   return 0;
 }
