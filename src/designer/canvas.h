@@ -72,8 +72,6 @@ class Canvas {
   void PressField(int index, platform::Point at, Button button);
   void PressLogo(platform::Point at);
   void StartDrag(const Drag& drag);
-  // The field of that index, or the logo for 0.
-  [[nodiscard]] const Box* BoxOf(int index) const;
   [[nodiscard]] const Box* SelectedBox() const;
   void ShowReadout(const Box& box);
   void Reveal(Box box);
