@@ -41,11 +41,12 @@ class Dialogs {
   [[nodiscard]] virtual bool Confirm(std::u16string_view text) = 0;
   virtual void Tell(Icon icon, std::u16string_view text) = 0;
 
-  // The common file dialogs; the filter as "Text (*.a;*.b)|*.a;*.b". Nothing when cancelled.
+  // The common file dialogs. They leave the current folder as it was. The filter as "Text (*.a;*.b)|*.a;*.b".
+  // Nothing when cancelled.
   [[nodiscard]] virtual std::optional<std::u16string> OpenFile(std::u16string_view filter,
                                                                std::u16string_view initialFolder) = 0;
   [[nodiscard]] virtual std::optional<std::u16string> SaveFile(std::u16string_view fileName) = 0;
-  // 0x00BBGGRR.
+  // 0x00BBGGRR; the initial one can be a system colour too, with its top bit set.
   [[nodiscard]] virtual std::optional<std::int32_t> ChooseColor(std::int32_t initial) = 0;
 };
 

@@ -1,55 +1,24 @@
 #pragma once
-// Small modal dialogs, built in memory: a column of controls, sized by measuring their texts so that nothing
-// is cut, and a row of buttons.
-// Units:  dialog units of the system's message font.
+// Small modal dialogs, built in memory from a layout, in the system's message font.
 // Errors: RuntimeError 7 when the window cannot be made; what a handler throws leaves Run, never the
 //         window procedure.
 // The owner is the thread's active window. Its other windows are disabled as long as the dialog is open.
 
 #include <exception>
+#include <memory>
+#include <optional>
 #include <string>
 #include <string_view>
-#include <vector>
 
-#include "platform/win32/wide.h"
+#include "platform/win32/dialog_arrangement.h"
+#include "platform/win32/dialog_layout.h"
+#include "platform/win32/dialog_ruler.h"
+#include "platform/win32/other_windows.h"
 
 namespace qm::platform::win32 {
 
 // The title of message boxes and of dialogs that are given none.
 inline constexpr std::u16string_view kApplicationTitle = u"Modelos de impresión";
-
-// What a dialog consists of. Controls stand in the order in which they are added, which is that of the
-// Tab key; buttons come last.
-class DialogLayout {
- public:
-  enum class Kind { Label, Entry, List, Button };
-  struct Control {
-    Kind kind;
-    int id;
-    std::u16string text;
-    std::vector<std::u16string> items;
-  };
-
-  explicit DialogLayout(std::u16string_view title) : title_(title) {}
-
-  void AddLabel(std::u16string_view text);  // wrapped; very long ones scroll
-  // One line, all of it selected.
-  void AddEntry(int id, std::u16string_view text);
-  // The first item is selected.
-  void AddList(int id, const std::vector<std::u16string>& items);
-  void AddButton(int id, std::u16string_view text);  // IDOK is the default one
-
-  [[nodiscard]] const std::u16string& Title() const { return title_; }
-  [[nodiscard]] const std::vector<Control>& Controls() const { return controls_; }
-
-  // Labels are numbered in their order from here.
-  static constexpr int kFirstLabelId = 1000;
-
- private:
-  std::u16string title_;
-  std::vector<Control> controls_;
-  int nextLabelId_ = kFirstLabelId;
-};
 
 class Dialog {
  public:
@@ -58,42 +27,50 @@ class Dialog {
   Dialog& operator=(const Dialog&) = delete;
   virtual ~Dialog() = default;
 
-  // The id of the button that ended it: IDCANCEL also for Escape, the close box and the end of the program.
+  // The id of the button that ended it: IDCANCEL also for Escape, the close box, the end of the program and
+  // of the user's session.
   int Run();
 
  protected:
+  // Every control shows what the layout says; the dialog is not visible yet.
+  virtual void Opened() {}
   // A control was used; ends the dialog on IDOK, IDCANCEL and on a double click in a list.
   virtual void Command(int id, int notification);
+  // Any other message: the dialog procedure's answer to it, or nothing to leave it to Windows.
+  virtual std::optional<INT_PTR> Message(UINT message, WPARAM wide, LPARAM parameter);
   void End(int id);
+
+  [[nodiscard]] HWND Window() const { return window_; }
+  [[nodiscard]] HWND ControlOf(int id) const { return GetDlgItem(window_, id); }
   [[nodiscard]] std::u16string TextOf(int id) const;
-  [[nodiscard]] int SelectionOf(int id) const;  // -1 for none
+  void SetText(int id, std::u16string_view text);
+  [[nodiscard]] int SelectionOf(int list) const;  // -1 for none
+  [[nodiscard]] int ChoiceOf(int choice) const;   // likewise of a drop-down list
+  [[nodiscard]] bool TickedOf(int check) const;
 
  private:
-  // Visible windows of this thread that are enabled; disabled for as long as a dialog stands before them.
-  class OtherWindows {
-   public:
-    explicit OtherWindows(HWND owner);
-    OtherWindows(const OtherWindows&) = delete;
-    OtherWindows& operator=(const OtherWindows&) = delete;
-    ~OtherWindows() { Enable(); }
-    void Enable();
-
-   private:
-    std::vector<HWND> windows_;
-  };
-
   static INT_PTR CALLBACK Procedure(HWND window, UINT message, WPARAM wide, LPARAM parameter) noexcept;
-  INT_PTR Handle(UINT message, WPARAM wide);
+  INT_PTR Handle(UINT message, WPARAM wide, LPARAM parameter);
+  void Open();
   void Fill();
+  void FillOne(const DialogLayout::Control& control, HWND window);
+  void ShowAtNaturalSize();
+  void Arrange();
+  void LimitSize(MINMAXINFO& limits) const;
+  [[nodiscard]] SIZE FrameSize() const;  // what the window has around its client area
 
   DialogLayout layout_;
   HWND window_ = nullptr;
+  std::unique_ptr<DialogRuler> ruler_;
+  std::unique_ptr<DialogArrangement> arrangement_;
   OtherWindows* others_ = nullptr;
   int result_ = IDCANCEL;
   std::exception_ptr failure_;
 };
 
-// A message box with an exclamation icon and an OK button, under the same rules.
+// A message box of the active window, under the same rules; the button that was pressed.
+int ShowMessage(std::u16string_view title, std::u16string_view text, UINT buttonsAndIcon);
+// With an exclamation icon and an OK button.
 void ShowWarning(std::u16string_view title, std::u16string_view text);
 
 }  // namespace qm::platform::win32

@@ -35,12 +35,14 @@ class PrintSettings {
   // In this order until the driver accepts: the paper's code, a paper of the printer chosen by CodeOfSize,
   // the width and height as they are. Sizes are meant upright, so all but the code ask for portrait.
   void Choose(const Paper& paper);
+  // The paper of that code and no other; false when the driver refuses it.
+  [[nodiscard]] bool Take(std::int16_t code) { return Accepts(code, false); }
+  [[nodiscard]] std::vector<PrinterPaper> Papers() const;
   [[nodiscard]] const DEVMODEW& Mode() const { return *reinterpret_cast<const DEVMODEW*>(mode_.data()); }
 
  private:
   [[nodiscard]] bool Accepts(std::int16_t code, bool upright);
   void TakeSize(const Paper& paper);
-  [[nodiscard]] std::vector<PrinterPaper> Papers() const;
   // The settings as the driver completes them.
   [[nodiscard]] std::vector<std::byte> Completed(DEVMODEW* changed) const;
 

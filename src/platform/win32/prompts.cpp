@@ -9,11 +9,6 @@ constexpr int kAnswerId = 101;
 constexpr int kPrintersId = 102;
 constexpr int kFirstOptionId = 200;
 
-void AddOkAndCancel(DialogLayout& layout) {
-  layout.AddButton(IDOK, u"Aceptar");
-  layout.AddButton(IDCANCEL, u"Cancelar");
-}
-
 class ValueDialog : public Dialog {
  public:
   ValueDialog(std::u16string_view prompt, std::u16string_view defaultAnswer)
@@ -32,7 +27,7 @@ class ValueDialog : public Dialog {
     DialogLayout layout(kApplicationTitle);
     layout.AddLabel(prompt);
     layout.AddEntry(kAnswerId, defaultAnswer);
-    AddOkAndCancel(layout);
+    layout.AddOkAndCancel();
     return layout;
   }
 
@@ -60,7 +55,7 @@ class PrinterDialog : public Dialog {
     DialogLayout layout(title);
     layout.AddLabel(text);
     layout.AddList(kPrintersId, deviceNames);
-    AddOkAndCancel(layout);
+    layout.AddOkAndCancel();
     return layout;
   }
 
@@ -93,7 +88,7 @@ class OptionsDialog : public Dialog {
       layout.AddLabel(entry.label);
       layout.AddEntry(id++, entry.text);
     }
-    AddOkAndCancel(layout);
+    layout.AddOkAndCancel();
     return layout;
   }
 

@@ -9,8 +9,10 @@
 namespace qm::platform::win32 {
 namespace {
 
+using ::testing::Contains;
 using ::testing::ElementsAreArray;
 using ::testing::IsSupersetOf;
+using ::testing::Not;
 
 constexpr std::u16string_view kA4 = u"Impresora A4";
 constexpr std::u16string_view kReceipts = u"Impresora Recibos";
@@ -66,6 +68,38 @@ TEST(InstalledPrinters, TheDefaultOneOpens) { EXPECT_EQ(Win32Printers().OpenDefa
 TEST(InstalledPrinters, AMissingOneIsError482) {
   EXPECT_RUNTIME_ERROR(482, (void)Win32Printers().Open(u"Impresora que no existe"));
   EXPECT_RUNTIME_ERROR(482, (void)Win32Printers().Open(u""));
+}
+
+TEST(InstalledPrinters, TellTheirFonts) {
+  EXPECT_THAT(Win32Printers().FontNames(kA4), IsSupersetOf({u"Liberation Sans", u"Liberation Mono"}));
+  EXPECT_RUNTIME_ERROR(482, (void)Win32Printers().FontNames(u"Impresora que no existe"));
+}
+
+TEST(InstalledPrinters, TellThePapersThatTheyTake) {
+  EXPECT_THAT(Win32Printers().PaperCodes(kA4), Contains(DMPAPER_A4));
+  EXPECT_THAT(Win32Printers().PaperCodes(kA4), Not(Contains(113)));
+  EXPECT_RUNTIME_ERROR(482, (void)Win32Printers().PaperCodes(u"Impresora que no existe"));
+}
+
+void ExpectPage(std::u16string_view device, const Paper& paper, double width, double height) {
+  const std::optional<PageSize> page = Win32Printers().PageOf(device, paper);
+  ASSERT_TRUE(page);
+  EXPECT_NEAR(page->widthTwips, width, 15);
+  EXPECT_NEAR(page->heightTwips, height, 15);
+}
+
+TEST(PagesOfPrinters, AreWholeWithTheirUnprintableEdges) {
+  ExpectPage(kA4, {DMPAPER_A4, u"", 0, 0}, 11906, 16838);
+  ExpectPage(kA4, {DMPAPER_A5, u"", 0, 0}, Twips(14.8), Twips(21));
+  ExpectPage(kReceipts, {0, u"PS", 11339, 5760}, 11339, 5760);
+}
+
+TEST(PagesOfPrinters, WithoutACodeAreOfTheSizeGiven) {
+  ExpectPage(kA4, {0, u"Especial", Twips(12.3), Twips(17.7)}, Twips(12.3), Twips(17.7));
+}
+
+TEST(PagesOfPrinters, AreNoneForACodeThatThePrinterRefuses) {
+  EXPECT_EQ(Win32Printers().PageOf(kA4, {113, u"", 11906, 16838}), std::nullopt);
 }
 
 struct PrinterPages : testing::Test {
