@@ -1,9 +1,14 @@
 #include "api/composition.h"
 
+#include "mail/profiles.h"
 #include "print/label_sheets.h"
 #include "print/model_choice.h"
+#include "recordfile/field_list.h"
 
 namespace qm::api {
+
+Composition::Composition()
+    : profiles_(files_, mail::kProfileTable, recordfile::ParseFieldList(mail::kProfileFieldList)) {}
 
 bool Composition::Imprimir(data::PrintJob& job) {
   const print::Environment environment = NewEnvironment();

@@ -117,7 +117,7 @@ int DialogArrangement::NaturalHeight(int index, int width) const {
       return std::min(DialogRuler::TallestLabel(), ruler_.HeightOfWrapped(control.text, width));
     case Kind::Entry:
     case Kind::Choice:
-      return ruler_.Down(kEntryHeight);
+      return ruler_.Down(control.height > 0 ? control.height : kEntryHeight);
     case Kind::List:
     case Kind::Drawing:
       return ruler_.Down(control.height);

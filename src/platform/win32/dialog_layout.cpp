@@ -26,10 +26,13 @@ void DialogLayout::Begin(Kind kind, std::u16string_view text) {
 }
 
 void DialogLayout::AddLabel(std::u16string_view text) { Add(Kind::Label, nextLabelId_++, text); }
-void DialogLayout::AddNote(std::u16string_view text) { Add(Kind::Note, nextLabelId_++, text); }
+void DialogLayout::AddNote(std::u16string_view text) { AddNote(nextLabelId_++, text); }
+void DialogLayout::AddNote(int id, std::u16string_view text) { Add(Kind::Note, id, text); }
 void DialogLayout::AddEntry(int id, std::u16string_view text) { Add(Kind::Entry, id, text); }
-void DialogLayout::AddEntry(int id, std::u16string_view text, int width) {
-  Add(Kind::Entry, id, text).width = width;
+void DialogLayout::AddEntry(int id, std::u16string_view text, int width, int height) {
+  Control& entry = Add(Kind::Entry, id, text);
+  entry.width = width;
+  entry.height = height;
 }
 void DialogLayout::AddList(int id, const std::vector<std::u16string>& items, int selected) {
   AddList(id, items, selected, kListWidth, kListHeight);

@@ -45,8 +45,10 @@ class DialogLayout {
 
   void AddLabel(std::u16string_view text);
   void AddNote(std::u16string_view text);
+  void AddNote(int id, std::u16string_view text);
   void AddEntry(int id, std::u16string_view text);
-  void AddEntry(int id, std::u16string_view text, int width);
+  // Of that least width, and of that height where it is not 0.
+  void AddEntry(int id, std::u16string_view text, int width, int height = 0);
   // The first item is selected; with -1 none is.
   void AddList(int id, const std::vector<std::u16string>& items, int selected = 0);
   void AddList(int id, const std::vector<std::u16string>& items, int selected, int width, int height);
