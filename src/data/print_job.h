@@ -73,6 +73,8 @@ struct PrintJob {
   Cells cells;
   std::vector<std::optional<Cells>> rows;  // one slot a record, empty where nothing was loaded
 
+  std::int16_t menuCounter = 0;  // the next free picker menu of the designer; never reset
+
   PromptState cellPrompts;
   PromptState rowPrompts;
   std::optional<std::u16string> substitutePrinter;

@@ -1,13 +1,16 @@
 #pragma once
 // Mouse and keyboard on the page canvas: selecting, dragging, sizing, moving by keys, snapping and zoom.
-// Units:  twips from the page's top-left corner; scroll values are twips of the page. Zoom is of the view
-//         only: stored values never depend on it.
+// Units:  twips from the page's top-left corner; scroll values are twips of the page. The mouse is taken to
+//         stand on whole twips, so that at any resolution and zoom whole twips are stored.
 
-#include <array>
 #include <optional>
 #include <vector>
 
 #include "designer/document.h"
+#include "designer/drag.h"
+#include "designer/handles.h"
+#include "designer/page_place.h"
+#include "designer/snapping.h"
 #include "designer/view.h"
 #include "platform/surface.h"
 #include "runtime/locale.h"
@@ -15,18 +18,7 @@
 namespace qm::designer {
 
 enum class Button { Left, Right };
-enum class Pointer { Arrow, SizeNorthSouth, SizeWestEast, Corner };
-struct Modifiers {
-  bool shift = false;
-  bool control = false;
-};
 enum class Direction { Left, Right, Up, Down };
-
-// A line to which a dragged field snapped.
-struct Guide {
-  bool vertical = false;
-  float position = 0;
-};
 
 class Canvas {
  public:
@@ -34,50 +26,66 @@ class Canvas {
 
   // A press on whatever lies there: a handle, a field, the logo or the empty page. The right button opens
   // the menu that belongs to it.
-  void Press(platform::Point at, Button button, Modifiers modifiers);
-  // The mouse moved; with the left button held on a field, a handle or the logo this drags it.
+  void Press(platform::Point at, Button button);
+  // The mouse moved; with the left button held on a field, a handle or the logo this drags it. With Shift a
+  // drag keeps to one axis, with Ctrl it snaps; when one of these keys goes up or down this is called again.
   void Move(platform::Point at, bool leftHeld, Modifiers modifiers);
   // The left button is up: the click of the field pressed, which shows its handles unless it was dragged.
   void Release(platform::Point at);
+  void EndDrag();     // where it is, for whatever comes between; no click
   void CancelDrag();  // as if it had never begun
+  // While one lasts, no command but CancelDrag should reach the layout.
+  [[nodiscard]] bool Dragging() const { return drag_.has_value(); }
   [[nodiscard]] Pointer PointerAt(platform::Point at) const;
-  // What lies there: a field's index, or 0.
+  // What lies there: a field's index, or 0. The highest index lies on top, and all fields above the logo.
   [[nodiscard]] int FieldAt(platform::Point at) const;
   [[nodiscard]] bool LogoAt(platform::Point at) const;
 
-  void ArrowKey(Direction direction, Modifiers modifiers);  // moves by 15 or, with Ctrl, by 1; Shift sizes
-  void NextField(bool backwards);                           // Tab and Shift+Tab
+  // Moves the selected field or logo by 15 or, with Ctrl, by 1; with Shift it sizes it. A key held down,
+  // which is what repeated says, is one step of undo.
+  void ArrowKey(Direction direction, Modifiers modifiers, bool repeated = false);
+  void NextField(bool backwards);  // Tab and Shift+Tab
 
   // BORRAR_BOTONES and REAJUSTA_MEN
   void HideHandles();
   void ShowHandlesOf(int index);
-  // The boxes of the handles 1 to 8 around the selected field, while they are shown; element 0 is unused.
-  [[nodiscard]] std::optional<std::array<Box, 9>> Handles() const;
+  // Around the selected field, while they are shown.
+  [[nodiscard]] std::optional<HandleBoxes> Handles() const;
+  // A handle's side: six pixels of 15 twips at any zoom, in whole twips of the page.
+  [[nodiscard]] float HandleSize() const;
   [[nodiscard]] const std::vector<Guide>& Guides() const { return guides_; }
-  [[nodiscard]] std::u16string Readout(const Box& box) const;
 
-  // Scroll bars: 16-bit values in twips.
   void ScrollTo(int horizontal, int vertical);
-  [[nodiscard]] int Horizontal() const { return horizontal_; }
-  [[nodiscard]] int Vertical() const { return vertical_; }
+  [[nodiscard]] int Horizontal() const { return place_.Horizontal(); }
+  [[nodiscard]] int Vertical() const { return place_.Vertical(); }
+  [[nodiscard]] int HorizontalMax() const { return PagePlace::HorizontalMax(document_.Current()); }
+  [[nodiscard]] int VerticalMax() const { return PagePlace::VerticalMax(document_.Current()); }
+  // The viewport's size in twips of the screen, so that a field reached by keys can be brought into sight.
+  void SetViewport(double width, double height) { place_.SetViewport(width, height); }
   // Steps of the wheel with Ctrl, and 100 percent. The point under the mouse stays where it is.
   void ZoomBy(int steps, platform::Point around);
   void ZoomToActualSize();
-  [[nodiscard]] double Zoom() const { return zoom_; }
-  // A handle's side, 90 twips at a zoom of 1.
-  [[nodiscard]] float HandleSize() const;
+  [[nodiscard]] double Zoom() const { return place_.Zoom(); }
 
  private:
-  struct Drag;  // what is being dragged, from where
+  void PressHandle(int handle, platform::Point at);
+  void PressField(int index, platform::Point at, Button button);
+  void PressLogo(platform::Point at);
+  void StartDrag(const Drag& drag);
+  // The field of that index, or the logo for 0.
+  [[nodiscard]] const Box* BoxOf(int index) const;
+  [[nodiscard]] const Box* SelectedBox() const;
+  void ShowReadout(const Box& box);
+  void Reveal(Box box);
 
   Document& document_;
   View& view_;
   runtime::Locale locale_;
-  bool handlesShown_ = false;
+  int handlesOf_ = 0;  // the field with the handles, when it is the selected one; 0 hides them
+  int handlesOfBeforeDrag_ = 0;
+  std::optional<Drag> drag_;
   std::vector<Guide> guides_;
-  int horizontal_ = 0;
-  int vertical_ = 0;
-  double zoom_ = 1;
+  PagePlace place_;
 };
 
 }  // namespace qm::designer

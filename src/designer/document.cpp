@@ -1,29 +1,78 @@
 #include "designer/document.h"
 
+#include <algorithm>
 #include <utility>
 
 namespace qm::designer {
 
+namespace {
+
+template <class Part>
+void ShareEqual(std::shared_ptr<const Part>& part, const std::shared_ptr<const Part>& earlier) {
+  if (part != earlier && part && earlier && *part == *earlier) part = earlier;
+}
+
+// Fields and logo that are as they were become the same objects again, so that layouts compare by content.
+void ShareEqualParts(Layout& layout, const Layout& earlier) {
+  ShareEqual(layout.logo, earlier.logo);
+  const std::size_t common = std::min(layout.men.size(), earlier.men.size());
+  for (std::size_t i = 0; i < common; ++i) ShareEqual(layout.men[i], earlier.men[i]);
+}
+
+}  // namespace
+
 void Document::Edit(const std::function<void(Layout&)>& change) {
+  inRun_ = false;
+  Apply(change);
+}
+
+void Document::EditInRun(const std::function<void(Layout&)>& change, bool goesOn) {
+  if (!goesOn || !inRun_) {
+    inRun_ = Apply(change) && !inGesture_;
+    return;
+  }
+  Adjust([&](Layout& layout) {
+    change(layout);
+    modified_ = modified_ || layout != layout_;
+  });
+}
+
+bool Document::Apply(const std::function<void(Layout&)>& change) {
   Layout changed = layout_;
   change(changed);
-  if (changed == layout_) return;
+  ShareEqualParts(changed, layout_);
+  if (changed == layout_) return false;
   modified_ = true;
-  if (!inGesture_ || !gestureChanged_) {
-    if (undo_.size() == kMostSteps) undo_.erase(undo_.begin());
-    undo_.push_back(layout_);
-    redo_.clear();
-    gestureChanged_ = inGesture_;
-  }
+  if (!inGesture_)
+    Remember(layout_);
+  else if (!gestureStart_)
+    gestureStart_ = layout_;
   Become(std::move(changed));
+  return true;
 }
 
 void Document::BeginGesture() {
   inGesture_ = true;
-  gestureChanged_ = false;
+  inRun_ = false;
+  modifiedBeforeGesture_ = modified_;
+  gestureStart_.reset();
 }
 
-void Document::EndGesture() { inGesture_ = gestureChanged_ = false; }
+void Document::EndGesture() {
+  inGesture_ = inRun_ = false;
+  if (!gestureStart_) return;
+  ShareEqualParts(*gestureStart_, layout_);
+  if (*gestureStart_ != layout_) Remember(std::move(*gestureStart_));
+  gestureStart_.reset();
+}
+
+void Document::CancelGesture() {
+  inGesture_ = inRun_ = false;
+  if (!gestureStart_) return;
+  modified_ = modifiedBeforeGesture_;
+  Become(std::move(*gestureStart_));
+  gestureStart_.reset();
+}
 
 void Document::Adjust(const std::function<void(Layout&)>& change) {
   Layout changed = layout_;
@@ -34,13 +83,15 @@ void Document::Adjust(const std::function<void(Layout&)>& change) {
 void Document::AdjustThroughout(const std::function<void(Layout&)>& change) {
   for (Layout& earlier : undo_) change(earlier);
   for (Layout& later : redo_) change(later);
+  if (gestureStart_) change(*gestureStart_);
   Adjust(change);
 }
 
 void Document::Start(Layout layout) {
   undo_.clear();
   redo_.clear();
-  EndGesture();
+  inGesture_ = false;
+  gestureStart_.reset();
   Select(0);
   Become(std::move(layout));
   modified_ = false;
@@ -52,6 +103,7 @@ bool Document::Undo() {
   Layout earlier = std::move(undo_.back());
   undo_.pop_back();
   modified_ = true;
+  inRun_ = false;
   Become(std::move(earlier));
   return true;
 }
@@ -62,6 +114,7 @@ bool Document::Redo() {
   Layout later = std::move(redo_.back());
   redo_.pop_back();
   modified_ = true;
+  inRun_ = false;
   Become(std::move(later));
   return true;
 }
@@ -69,11 +122,19 @@ bool Document::Redo() {
 void Document::Select(int index) {
   selected_ = index;
   logoSelected_ = false;
+  inRun_ = false;
 }
 
 void Document::SelectLogo() {
   selected_ = 0;
   logoSelected_ = true;
+  inRun_ = false;
+}
+
+void Document::Remember(Layout earlier) {
+  if (undo_.size() == kMostSteps) undo_.erase(undo_.begin());
+  undo_.push_back(std::move(earlier));
+  redo_.clear();
 }
 
 void Document::Become(Layout layout) {

@@ -4,6 +4,7 @@
 
 #include <cstddef>
 #include <functional>
+#include <optional>
 #include <vector>
 
 #include "designer/layout.h"
@@ -25,9 +26,15 @@ class Document {
 
   // One edit: marks the layout modified and is one step of undo. A change that changes nothing is none.
   void Edit(const std::function<void(Layout&)>& change);
-  // Edits from here to the end, a drag's for example, are one step. Gestures do not nest.
+  // One edit of a run, as a key makes that is held down: when it goes on, it belongs to the step of the edit
+  // before, provided that was of a run as well and nothing else came between.
+  void EditInRun(const std::function<void(Layout&)>& change, bool goesOn);
+  // Edits from here to the end, a drag's for example, are one step; none when all is as it was before.
+  // Gestures do not nest.
   void BeginGesture();
   void EndGesture();
+  // As if the gesture had never begun, to the modified mark and what could be redone.
+  void CancelGesture();
   // Not an edit: neither marks anything nor can be undone.
   void Adjust(const std::function<void(Layout&)>& change);
   // Likewise, and also in all that undo and redo lead to: for what changed outside the layout.
@@ -51,6 +58,8 @@ class Document {
   void SelectLogo();  // and no field
 
  private:
+  bool Apply(const std::function<void(Layout&)>& change);
+  void Remember(Layout earlier);
   void Become(Layout layout);
 
   static constexpr std::size_t kMostSteps = 500;
@@ -59,7 +68,9 @@ class Document {
   std::vector<Layout> undo_;
   std::vector<Layout> redo_;
   bool inGesture_ = false;
-  bool gestureChanged_ = false;
+  bool modifiedBeforeGesture_ = false;
+  std::optional<Layout> gestureStart_;  // once something changed
+  bool inRun_ = false;                  // an edit of a run came last, with the same selection
   bool modified_ = false;
   int selected_ = 0;
   bool logoSelected_ = false;

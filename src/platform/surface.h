@@ -19,6 +19,7 @@ struct Font {
   bool bold = false;
   bool italic = false;
   bool underline = false;
+  bool strikethru = false;
 
   bool operator==(const Font&) const = default;
 };

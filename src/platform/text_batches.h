@@ -15,7 +15,7 @@ struct TextBox {
   int right = 0;
   int bottom = 0;  // boxes that only touch do not overlap
   int face = 0;    // texts of the same number share a face: name, weight and slant
-  int font = 0;    // likewise, and the size and underlining; a font has one face
+  int font = 0;    // likewise, and the size and the lines; a font has one face
 
   [[nodiscard]] bool Overlaps(const TextBox& other) const {
     return left < other.right && other.left < right && top < other.bottom && other.top < bottom;

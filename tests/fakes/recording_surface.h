@@ -27,6 +27,7 @@ inline std::string Describe(const platform::Font& font) {
   if (font.bold) text += " bold";
   if (font.italic) text += " italic";
   if (font.underline) text += " underline";
+  if (font.strikethru) text += " strikethru";
   return text;
 }
 

@@ -28,6 +28,7 @@ LOGFONTW Description(const Font& font, double dotsPerPoint, BYTE quality) {
   description.lfWeight = font.bold ? FW_BOLD : FW_NORMAL;
   description.lfItalic = font.italic ? TRUE : FALSE;
   description.lfUnderline = font.underline ? TRUE : FALSE;
+  description.lfStrikeOut = font.strikethru ? TRUE : FALSE;
   description.lfCharSet = DEFAULT_CHARSET;
   description.lfQuality = quality;
   const std::size_t length = std::min<std::size_t>(font.name.size(), LF_FACESIZE - 1);
