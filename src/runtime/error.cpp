@@ -27,6 +27,7 @@ constexpr Description kDescriptions[] = {
     {ErrorNumber::ObjectNotSet, u"Variable de objeto o bloque With no establecido"},
     {ErrorNumber::InvalidUseOfNull, u"Uso no válido de Null"},
     {ErrorNumber::MissingControlElement, u"El elemento de la matriz de controles no existe"},
+    {ErrorNumber::FormAlreadyShown, u"El formulario ya se está mostrando; no se puede mostrar como modal"},
     {ErrorNumber::InvalidPicture, u"Imagen no válida"},
     {ErrorNumber::PrinterError, u"Error de impresora"},
 };

@@ -25,6 +25,7 @@ enum class ErrorNumber : int {
   ObjectNotSet = 91,
   InvalidUseOfNull = 94,
   MissingControlElement = 340,
+  FormAlreadyShown = 400,
   InvalidPicture = 481,
   PrinterError = 482,
 };

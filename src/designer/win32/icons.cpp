@@ -1,0 +1,90 @@
+#include "designer/win32/icons.h"
+
+#include <vector>
+
+#include "designer/win32/palette.h"
+
+namespace qm::designer::win32 {
+namespace {
+
+// Shapes on a grid of 20 by 20, one over the other; the first colour is the lines', the second the fill's.
+struct Shape {
+  double left, top, right, bottom;
+  bool paper;  // white, otherwise in the icon's own colour
+};
+
+// A diskette, a printer with a sheet above and one below, a sheet with its measures.
+constexpr Shape kDiskette[] = {{2, 2, 18, 18, false},
+                               {3.25, 3.25, 16.75, 16.75, true},
+                               {6, 2, 14, 8, false},
+                               {7.25, 3.25, 12.75, 6.75, true},
+                               {10.5, 3.5, 12, 6.5, false},
+                               {5, 11, 15, 18, false},
+                               {6.25, 12.25, 13.75, 16.75, true},
+                               {7.5, 13.5, 12.5, 14.5, false},
+                               {7.5, 15.25, 12.5, 16.25, false}};
+constexpr Shape kPrinter[] = {{5, 2, 15, 9, false},
+                              {6.25, 3.25, 13.75, 8, true},
+                              {2, 7, 18, 15, false},
+                              {3.25, 8.25, 16.75, 13.75, true},
+                              {13.5, 9.5, 15.25, 11, false},
+                              {5, 11.5, 15, 18.5, false},
+                              {6.25, 12.75, 13.75, 17.25, true},
+                              {7.5, 14, 12.5, 15, false}};
+constexpr Shape kPaper[] = {{5, 2, 18, 18, false},      {6.25, 3.25, 16.75, 16.75, true},
+                            {8.5, 6, 14.5, 7, false},   {8.5, 9, 14.5, 10, false},
+                            {8.5, 12, 12.5, 13, false}, {1.5, 2, 3, 18, false},
+                            {1, 2, 3.5, 3, false},      {1, 17, 3.5, 18, false}};
+
+constexpr int kGrid = 20;
+constexpr int kFiner = 4;  // samples a pixel, in either direction
+
+std::vector<Shape> ShapesOf(Icon icon) {
+  switch (icon) {
+    case Icon::Grabar:
+      return {std::begin(kDiskette), std::end(kDiskette)};
+    case Icon::ImprimirPrueba:
+      return {std::begin(kPrinter), std::end(kPrinter)};
+    case Icon::Papel:
+      break;
+  }
+  return {std::begin(kPaper), std::end(kPaper)};
+}
+
+enum class Sample { Clear, Line, Paper };
+
+Sample SampleAt(const std::vector<Shape>& shapes, double x, double y) {
+  Sample sample = Sample::Clear;
+  for (const Shape& shape : shapes)
+    if (x >= shape.left && x < shape.right && y >= shape.top && y < shape.bottom)
+      sample = shape.paper ? Sample::Paper : Sample::Line;
+  return sample;
+}
+
+}  // namespace
+
+Bitmap32 NewIcon(Icon icon, int side) {
+  const std::vector<Shape> shapes = ShapesOf(icon);
+  Bitmap32 bitmap(side, side);
+  constexpr unsigned kSamples = kFiner * kFiner;
+  const double unit = static_cast<double>(kGrid) / (side * kFiner);
+  for (int y = 0; y < side; ++y) {
+    for (int x = 0; x < side; ++x) {
+      unsigned line = 0;
+      unsigned paper = 0;
+      for (int sample = 0; sample < static_cast<int>(kSamples); ++sample) {
+        const double across = (x * kFiner + sample % kFiner + 0.5) * unit;
+        const double down = (y * kFiner + sample / kFiner + 0.5) * unit;
+        const Sample found = SampleAt(shapes, across, down);
+        line += found == Sample::Line;
+        paper += found == Sample::Paper;
+      }
+      const auto blend = [&](unsigned of) { return (of * line + 0xFF * paper) / kSamples; };
+      bitmap.Row(y)[x] = 0xFF * (line + paper) / kSamples << 24 | blend(GetRValue(kIcon)) << 16 |
+                         blend(GetGValue(kIcon)) << 8 | blend(GetBValue(kIcon));
+    }
+  }
+  return bitmap;
+}
+
+}  // namespace qm::designer::win32

@@ -1,0 +1,14 @@
+#pragma once
+// The icons of the toolbar, drawn here at whatever size the screen asks for.
+// Units: pixels.
+
+#include "designer/win32/bitmap32.h"
+
+namespace qm::designer::win32 {
+
+enum class Icon { Grabar, ImprimirPrueba, Papel };
+
+// Square; its pixels carry their opacity, as AlphaBlend wants them.
+[[nodiscard]] Bitmap32 NewIcon(Icon icon, int side);
+
+}  // namespace qm::designer::win32

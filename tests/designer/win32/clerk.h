@@ -1,0 +1,116 @@
+#pragma once
+// A clerk before the designer: a thread that waits for the window, acts on it and, unless it is closed by
+// then, closes it. Plain actions are sent; what opens a dialog or a menu is posted.
+
+#include <atomic>
+#include <functional>
+#include <string>
+#include <thread>
+#include <utility>
+
+#include "designer/win32/modelo_print_window.h"
+#include "designer/win32/show.h"
+#include "tests/designer/win32/window_world.h"
+#include "tests/platform/win32/window_driver.h"
+
+namespace qm::designer::win32 {
+
+using platform::win32::Wide;
+using platform::win32::WindowDriver;
+
+class Clerk {
+ public:
+  using Action = std::function<void(Clerk&)>;
+
+  explicit Clerk(Action action)
+      : host_(GetCurrentThreadId()), thread_([this, action = std::move(action)] {
+          form_ = WaitFor(ModeloPrintWindow::kClassName, nullptr);
+          if (!form_) return;
+          action(*this);
+          if (IsWindow(form_)) PostMessageW(form_, WM_CLOSE, 0, 0);
+        }) {}
+  Clerk(const Clerk&) = delete;
+  Clerk& operator=(const Clerk&) = delete;
+  ~Clerk() { thread_.join(); }
+
+  [[nodiscard]] HWND Form() const { return form_; }
+  [[nodiscard]] HWND Page() const { return Control(kBasePin); }
+  [[nodiscard]] HWND Control(int id) const { return GetDlgItem(form_, id); }
+  [[nodiscard]] DWORD HostThread() const { return host_; }
+
+  // A visible window of the host's thread, waited for; null when it never comes.
+  [[nodiscard]] HWND WaitFor(const wchar_t* className, const wchar_t* title) const {
+    HWND found = nullptr;
+    (void)Until([&] {
+      for (HWND window = nullptr; (window = FindWindowExW(nullptr, window, className, title)) != nullptr;)
+        if (IsWindowVisible(window) && GetWindowThreadProcessId(window, nullptr) == host_) found = window;
+      return found != nullptr;
+    });
+    return found;
+  }
+  static bool Until(const std::function<bool()>& condition) {
+    for (int attempt = 0; attempt < 2000; ++attempt, Sleep(5))
+      if (condition()) return true;
+    return false;
+  }
+
+  void Choose(int command) const { SendMessageW(form_, WM_COMMAND, static_cast<WPARAM>(command), 0); }
+  void Click(int id) const { SendMessageW(Control(id), BM_CLICK, 0, 0); }
+  [[nodiscard]] std::u16string TextOf(int id) const { return WindowDriver::TextOf(Control(id)); }
+  void Type(int id, const std::u16string& text) const {
+    SendMessageW(Control(id), WM_SETTEXT, 0, reinterpret_cast<LPARAM>(Wide(text)));
+  }
+  void Pick(int list, int position) const {
+    SendMessageW(Control(list), CB_SETCURSEL, static_cast<WPARAM>(position), 0);
+    SendMessageW(form_, WM_COMMAND, MAKEWPARAM(list, CBN_SELCHANGE), reinterpret_cast<LPARAM>(Control(list)));
+  }
+
+  // The mouse at a place of the page, in twips, while nothing is scrolled or zoomed.
+  static LPARAM At(int xTwips, int yTwips) {
+    return MAKELPARAM(PageView::kMargin + xTwips / 15, PageView::kMargin + yTwips / 15);
+  }
+  void Press(int x, int y) const { SendMessageW(Page(), WM_LBUTTONDOWN, MK_LBUTTON, At(x, y)); }
+  void Move(int x, int y) const { SendMessageW(Page(), WM_MOUSEMOVE, MK_LBUTTON, At(x, y)); }
+  void Release(int x, int y) const { SendMessageW(Page(), WM_LBUTTONUP, 0, At(x, y)); }
+  void ClickAt(int x, int y) const {
+    Press(x, y);
+    Release(x, y);
+  }
+  void Drag(int fromX, int fromY, int toX, int toY) const {
+    Press(fromX, fromY);
+    Move((fromX + toX) / 2, (fromY + toY) / 2);
+    Move(toX, toY);
+    Release(toX, toY);
+  }
+  void Key(WPARAM key) const {
+    SendMessageW(Page(), WM_KEYDOWN, key, 1);
+    SendMessageW(Page(), WM_KEYUP, key, static_cast<LPARAM>(0xC0000001));
+  }
+  [[nodiscard]] SCROLLINFO Bar(int id) const {
+    SCROLLINFO info{};
+    info.cbSize = sizeof info;
+    info.fMask = SIF_ALL;
+    GetScrollInfo(Control(id), SB_CTL, &info);
+    return info;
+  }
+
+ private:
+  DWORD host_;
+  HWND form_ = nullptr;
+  std::thread thread_;
+};
+
+// The whole of a visit; true when the clerk found the window and did everything.
+inline bool Visit(WindowWorld& world, const Clerk::Action& action, std::int16_t numeroModelo = 1) {
+  std::atomic<bool> acted = false;
+  {
+    const Clerk clerk([&](Clerk& self) {
+      action(self);
+      acted = true;
+    });
+    ShowModeloPrint(world.world, world.menus, numeroModelo);
+  }
+  return acted;
+}
+
+}  // namespace qm::designer::win32
