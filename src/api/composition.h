@@ -29,6 +29,8 @@ class Composition {
 
   // False when the user ended the printing early.
   [[nodiscard]] bool Imprimir(data::PrintJob& job);
+  // The designer, until it is closed.
+  void Show(data::PrintJob& job);
 
  private:
   [[nodiscard]] print::Environment NewEnvironment();

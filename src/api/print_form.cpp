@@ -116,10 +116,16 @@ HRESULT PrintForm::get_XMLFileName(BSTR* result) noexcept {
   return Call([&] { Export(composition_.ModelFile().name, Required(result)); });
 }
 
-// The designer and e-mail are not part of this version.
+// E-mail is not part of this version.
 HRESULT PrintForm::EmailModelo(BSTR*, BSTR*, BSTR*) noexcept { return Call(ThrowNotSupported); }
 HRESULT PrintForm::EnviarEmail() noexcept { return Call(ThrowNotSupported); }
 HRESULT PrintForm::CrearZip(BSTR*, BSTR*) noexcept { return Call(ThrowNotSupported); }
-HRESULT PrintForm::Show() noexcept { return Call(ThrowNotSupported); }
+
+HRESULT PrintForm::Show() noexcept {
+  return Call([&] {
+    job_.numeroModelo = ModelNumberOf(numeroModelo_.Get());
+    composition_.Show(job_);
+  });
+}
 
 }  // namespace qm::api
