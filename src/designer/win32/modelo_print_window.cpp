@@ -100,7 +100,7 @@ void ModeloPrintWindow::Open() {
   ShowWindow(Handle(), SW_SHOW);
   SetForegroundWindow(Handle());
   SetFocus(page_->Handle());
-  UpdateWindow(Handle());
+  RedrawWindow(Handle(), nullptr, nullptr, RDW_UPDATENOW | RDW_ALLCHILDREN);
 }
 
 // ---- What the presenter shows
