@@ -171,7 +171,6 @@ void CheckActionsToCome(void* form, hosts::Expectations& expect) {
   expect.Result("EmailModelo", kNotSupported, At(form, 59, &text, &text, &text));
   expect.Result("EnviarEmail", kNotSupported, At(form, 60));
   expect.Result("CrearZip", kNotSupported, At(form, 61, &text, &text));
-  expect.Result("Show", kNotSupported, At(form, 68));
 }
 
 }  // namespace
