@@ -15,7 +15,7 @@ const automation::Creatable kCreatable[] = {
     {kTablasClass, []() -> IDispatch* { return new Tablas; }},
     {kCamposClass, []() -> IDispatch* { return new Campos; }},
     {kDatosTablaClass, []() -> IDispatch* { return new DatosTabla; }},
-    {kEmailClass, []() -> IDispatch* { return new Email; }},
+    {kEmailClass, []() -> IDispatch* { return new Email(TheComposition()); }},
 };
 
 }  // namespace

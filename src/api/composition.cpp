@@ -3,11 +3,11 @@
 #include <limits>
 
 #include "designer/win32/show.h"
+#include "mail/profiles.h"
 #include "platform/win32/dialogs.h"
-#include "platform/win32/folders.h"
-#include "platform/win32/processes.h"
 #include "print/label_sheets.h"
 #include "print/model_choice.h"
+#include "recordfile/field_list.h"
 #include "runtime/error.h"
 
 namespace qm::api {
@@ -27,6 +27,9 @@ std::int16_t FirstModel(const data::PrintJob& job, const runtime::Locale& locale
 
 }  // namespace
 
+Composition::Composition()
+    : profiles_(files_, mail::kProfileTable, recordfile::ParseFieldList(mail::kProfileFieldList)) {}
+
 bool Composition::Imprimir(data::PrintJob& job) {
   const print::Environment environment = NewEnvironment();
   const model::ModelTexts model = print::FindCurrentModel(job, environment);
@@ -39,9 +42,7 @@ void Composition::Show(data::PrintJob& job) {
   const data::PickerMenus menus = data::FillPickerMenus(job, files_);
   const print::Environment printing = NewEnvironment();
   platform::win32::Win32Dialogs dialogs;
-  platform::win32::Win32Folders folders;
-  platform::win32::Win32Processes processes;
-  designer::win32::ShowModeloPrint({printing, dialogs, folders, processes}, menus,
+  designer::win32::ShowModeloPrint({printing, dialogs, folders_, processes_}, menus,
                                    FirstModel(job, printing.locale));
 }
 

@@ -1,25 +1,28 @@
 #pragma once
 // The class Email: a message to be sent with one of the user's mail profiles.
 
+#include "api/composition.h"
 #include "api/typelib/QmModImp3.h"
 #include "api/typelib/definition.h"
 #include "automation/automation_object.h"
+#include "mail/email_message.h"
 
 namespace qm::api {
 
 class Email final : public automation::AutomationObject<Qm_Modelo_Impresion3::_Email, kEmailFace> {
  public:
-  QM_FIELD(BSTR, EmailDestinatario, emailDestinatario_)
-  QM_FIELD(BSTR, NombreDestinatario, nombreDestinatario_)
-  QM_FIELD(BSTR, CC, cc_)
-  QM_FIELD(BSTR, NombreCC, nombreCC_)
-  QM_FIELD(BSTR, Tema, tema_)
-  QM_FIELD(BSTR, Texto, texto_)
-  QM_FIELD(BSTR, ArchivoHTML, archivoHTML_)
-  QM_FIELD(BSTR, ArchivosAdjuntos, archivosAdjuntos_)
-  QM_FIELD(VARIANT_BOOL, Recibo, recibo_)
+  explicit Email(Composition& composition) : composition_(composition) {}
 
-  // Profiles and sending are not part of this version: each raises error 445.
+  QM_FIELD(BSTR, EmailDestinatario, message_.emailDestinatario)
+  QM_FIELD(BSTR, NombreDestinatario, message_.nombreDestinatario)
+  QM_FIELD(BSTR, CC, message_.cc)
+  QM_FIELD(BSTR, NombreCC, message_.nombreCC)
+  QM_FIELD(BSTR, Tema, message_.tema)
+  QM_FIELD(BSTR, Texto, message_.texto)
+  QM_FIELD(BSTR, ArchivoHTML, message_.archivoHTML)
+  QM_FIELD(BSTR, ArchivosAdjuntos, message_.archivosAdjuntos)
+  QM_FIELD(VARIANT_BOOL, Recibo, message_.recibo)
+
   HRESULT STDMETHODCALLTYPE LeerPerfiles(SHORT* porDefecto, BSTR* perfilPorDefecto,
                                          IDispatch** result) noexcept override;
   HRESULT STDMETHODCALLTYPE PerfilPorDefecto(BSTR* result) noexcept override;
@@ -28,15 +31,8 @@ class Email final : public automation::AutomationObject<Qm_Modelo_Impresion3::_E
   HRESULT STDMETHODCALLTYPE Enviar(BSTR* result) noexcept override;
 
  private:
-  std::u16string emailDestinatario_;
-  std::u16string nombreDestinatario_;
-  std::u16string cc_;
-  std::u16string nombreCC_;
-  std::u16string tema_;
-  std::u16string texto_;
-  std::u16string archivoHTML_;
-  std::u16string archivosAdjuntos_;
-  bool recibo_ = false;
+  Composition& composition_;
+  mail::EmailMessage message_;
 };
 
 }  // namespace qm::api

@@ -6,6 +6,8 @@
 #include "api/records.h"
 #include "data/bulk_loading.h"
 #include "data/fields.h"
+#include "mail/attachments.h"
+#include "mail/print_job_mail.h"
 
 namespace qm::api {
 
@@ -14,10 +16,20 @@ using automation::Import;
 using automation::OwnedVariant;
 using automation::Required;
 using automation::TextOf;
-using automation::ThrowNotSupported;
 using Qm_Modelo_Impresion3::_Campos;
 using Qm_Modelo_Impresion3::_QmFileControl2;
 using Qm_Modelo_Impresion3::_Tablas;
+
+namespace {
+
+// What a host passed by reference.
+void ReplaceText(BSTR& text, std::u16string_view by) {
+  BSTR made = automation::NewBstr(by);
+  SysFreeString(text);
+  text = made;
+}
+
+}  // namespace
 
 PrintForm::PrintForm(Composition& composition)
     : composition_(composition), events_(*static_cast<IDispatch*>(this), kPrintFormEventsFace) {}
@@ -116,10 +128,36 @@ HRESULT PrintForm::get_XMLFileName(BSTR* result) noexcept {
   return Call([&] { Export(composition_.ModelFile().name, Required(result)); });
 }
 
-// E-mail is not part of this version.
-HRESULT PrintForm::EmailModelo(BSTR*, BSTR*, BSTR*) noexcept { return Call(ThrowNotSupported); }
-HRESULT PrintForm::EnviarEmail() noexcept { return Call(ThrowNotSupported); }
-HRESULT PrintForm::CrearZip(BSTR*, BSTR*) noexcept { return Call(ThrowNotSupported); }
+HRESULT PrintForm::EmailModelo(BSTR* mydir, BSTR*, BSTR* zipFile) noexcept {
+  return Call([&] {
+    std::u16string folder(TextOf(Required(mydir)));
+    const std::u16string file(TextOf(Required(zipFile)));
+    job_.numeroModelo = ModelNumberOf(numeroModelo_.Get());
+    const bool isDefault = folder.empty();
+    composition_.WithMail(
+        [&](const mail::Environment& environment) { mail::EmailModelo(job_, environment, folder, file); });
+    if (isDefault) ReplaceText(*mydir, folder);
+  });
+}
+
+HRESULT PrintForm::EnviarEmail() noexcept {
+  return Call([&] {
+    composition_.WithMail(
+        [&](const mail::Environment& environment) { mail::EnviarEmail(job_, environment); });
+  });
+}
+
+HRESULT PrintForm::CrearZip(BSTR* eDir, BSTR* zipFile) noexcept {
+  return Call([&] {
+    std::u16string folder(TextOf(Required(eDir)));
+    const std::u16string file(TextOf(Required(zipFile)));
+    job_.numeroModelo = ModelNumberOf(numeroModelo_.Get());
+    const bool isDefault = folder.empty();
+    composition_.WithMail(
+        [&](const mail::Environment& environment) { mail::CrearZip(job_, environment, folder, file); });
+    if (isDefault) ReplaceText(*eDir, folder);
+  });
+}
 
 HRESULT PrintForm::Show() noexcept {
   return Call([&] {

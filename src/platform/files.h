@@ -9,6 +9,8 @@
 #include <string>
 #include <string_view>
 
+#include "runtime/format.h"
+
 namespace qm::platform {
 
 class Files {
@@ -23,12 +25,18 @@ class Files {
   [[nodiscard]] virtual std::string ReadOrCreate(std::u16string_view path, std::size_t most) = 0;
   // Writes beside the file, flushes and swaps: at any moment the file is the old or the new one, whole.
   virtual void Replace(std::u16string_view path, std::string_view bytes) = 0;
+  // The same without waiting until the disk has it: for what can be made again at any time.
+  virtual void ReplaceUnflushed(std::u16string_view path, std::string_view bytes) { Replace(path, bytes); }
   virtual void Delete(std::u16string_view path) = 0;
   // Whether it exists and can be opened for reading while others read and write it.
   [[nodiscard]] virtual bool CanRead(std::u16string_view path) = 0;
   // Opens the file for appending and closes it again, nothing written: error 70 while another program keeps
   // it to itself.
   virtual void TryAppend(std::u16string_view path) = 0;
+  // The local time of the file's last change; nothing where that is not known.
+  [[nodiscard]] virtual std::optional<runtime::DateTime> LastChange(std::u16string_view) {
+    return std::nullopt;
+  }
   // The user's folder for scratch files, with its final backslash.
   [[nodiscard]] virtual std::u16string ScratchFolder() = 0;
 };

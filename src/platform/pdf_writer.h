@@ -14,8 +14,7 @@ namespace qm::platform {
 
 struct PageText {
   Point topLeft;
-  double width = 0;
-  double height = 0;
+  TextExtent extent;  // as it was drawn
   std::u16string text;
 };
 
@@ -24,7 +23,7 @@ struct PdfProperties {
   std::u16string language = u"es-ES";
 };
 
-// The whole file.
+// The whole file, in the order of the texts when read aloud. The same page always gives the same bytes.
 [[nodiscard]] std::string PdfOfPage(const PageImage& image, const std::vector<PageText>& texts,
                                     const PdfProperties& properties);
 

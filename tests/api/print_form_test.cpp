@@ -293,12 +293,21 @@ TEST_F(PrintFormObject, AnswersNullPointersWithTheRuntimesError) {
   EXPECT_EQ(form_->QueryInterface(IID_IUnknown, nullptr), E_POINTER);
 }
 
-TEST_F(PrintFormObject, SaysSoWhereAnActionIsNotAvailable) {
-  Bstr text(L"x");
-  EXPECT_EQ(form_->EnviarEmail(), RuntimeResult(445));
-  EXPECT_EQ(TakeError().description, L"El objeto no admite esta acción");
-  EXPECT_EQ(form_->EmailModelo(text.Ref(), text.Ref(), text.Ref()), RuntimeResult(445));
-  EXPECT_EQ(form_->CrearZip(text.Ref(), text.Ref()), RuntimeResult(445));
+TEST_F(PrintFormObject, HandsNothingOffWhereNobodyIsToBeWrittenTo) {
+  Bstr folder, unused, file(L"carta.doc");
+  EXPECT_EQ(form_->EnviarEmail(), S_OK);
+  EXPECT_EQ(form_->EmailModelo(folder.Ref(), unused.Ref(), file.Ref()), S_OK);
+  const std::wstring library = component_.Path();
+  EXPECT_EQ(folder.Text(), library.substr(0, library.rfind(L'\\') + 1));  // the default is written back
+  EXPECT_EQ(form_->EmailModelo(nullptr, unused.Ref(), file.Ref()), RuntimeResult(5));
+  EXPECT_EQ(form_->EmailModelo(folder.Ref(), unused.Ref(), nullptr), RuntimeResult(5));
+}
+
+TEST_F(PrintFormObject, NeedsAModelForADocument) {
+  Bstr folder(L"C:\\"), unused, file(L"factura.pdf");
+  EXPECT_EQ(form_->put_XMLFileName(Bstr().Get()), S_OK);
+  EXPECT_EQ(form_->CrearZip(folder.Ref(), file.Ref()), RuntimeResult(50101));
+  EXPECT_EQ(form_->EmailModelo(folder.Ref(), unused.Ref(), file.Ref()), RuntimeResult(50101));
 }
 
 TEST_F(PrintFormObject, LeavesNoOldErrorInformationAfterASuccess) {
@@ -336,7 +345,7 @@ TEST(RecordObjects, AreCreatableAndKeepTheirFields) {
   EXPECT_NE(component.Create<_Campos>(CLSID_Campos, IID__Campos), nullptr);
 }
 
-TEST(EmailObject, KeepsItsFieldsAndRefusesItsOperations) {
+TEST(EmailObject, KeepsItsFields) {
   const Component component;
   const auto email = component.Create<_Email>(CLSID_Email, IID__Email);
   ASSERT_NE(email, nullptr);
@@ -364,15 +373,6 @@ TEST(EmailObject, KeepsItsFieldsAndRefusesItsOperations) {
   EXPECT_EQ(email->put_Recibo(VARIANT_TRUE), S_OK);
   EXPECT_EQ(email->get_Recibo(&receipt), S_OK);
   EXPECT_EQ(receipt, VARIANT_TRUE);
-
-  SHORT position = 0;
-  Bstr profile, text;
-  IDispatch* list = nullptr;
-  EXPECT_EQ(email->LeerPerfiles(&position, profile.Ref(), &list), RuntimeResult(445));
-  EXPECT_EQ(email->PerfilPorDefecto(text.Out()), RuntimeResult(445));
-  EXPECT_EQ(email->get_Perfil(text.Out()), RuntimeResult(445));
-  EXPECT_EQ(email->put_Perfil(profile.Get()), RuntimeResult(445));
-  EXPECT_EQ(email->Enviar(text.Out()), RuntimeResult(445));
 }
 
 }  // namespace

@@ -23,11 +23,11 @@ struct LastCopyOfAModelFile : testing::Test {
 };
 
 TEST_F(LastCopyOfAModelFile, LiesInTheUsersLocalDataUnderTheFilesName) {
-  EXPECT_TRUE(copy.Path().starts_with(u"C:\\Usuario\\AppData\\Local\\TALVO\\Modelos\\fact-"));
+  EXPECT_TRUE(copy.Path().starts_with(u"C:\\Users\\ana\\AppData\\Local\\TALVO\\Modelos\\fact-"));
   copy.Keep("<Modelos/>");
   EXPECT_EQ(files.contents.at(copy.Path()), "<Modelos/>");
-  EXPECT_THAT(folders.made, ElementsAre(u"C:\\Usuario\\AppData\\Local\\TALVO",
-                                        u"C:\\Usuario\\AppData\\Local\\TALVO\\Modelos"));
+  EXPECT_THAT(folders.made, ElementsAre(u"C:\\Users\\ana\\AppData\\Local\\TALVO",
+                                        u"C:\\Users\\ana\\AppData\\Local\\TALVO\\Modelos"));
 }
 
 TEST_F(LastCopyOfAModelFile, IsAnotherOneForAFileOfTheSameNameElsewhere) {

@@ -387,7 +387,7 @@ TEST_F(DesignerWindow, SavingAsLeavesTheCurrentFolderAsItWas) {
   const Environment elsewhere{environment, wandering, folders, processes};
   ModeloPrint designer(elsewhere, view, menus, 1);
   designer.arch_Click(1);
-  EXPECT_EQ(folders.currentFolder, u"C:\\Actual");
+  EXPECT_EQ(folders.currentFolder, u"C:\\Inicio");
 }
 
 TEST_F(DesignerWindow, SavingAsBeforeThereIsAFileSaysSo) {

@@ -1,7 +1,6 @@
 #pragma once
-// Folders that are texts. Only those listed exist; what is made is added to them.
+// Folders that live in memory, under drive letters. Every change is written down.
 
-#include <algorithm>
 #include <map>
 #include <set>
 #include <string>
@@ -15,23 +14,25 @@ namespace qm::fakes {
 
 class FakeFolders : public platform::Folders {
  public:
-  std::map<int, std::u16string> special;
-  std::u16string workingFolder = u"C:\\Trabajo\\";
-  std::u16string componentFolder = u"C:\\Programa";
-  std::u16string localData = u"C:\\Usuario\\AppData\\Local";
-  std::u16string userName = u"usuario";
-  std::u16string currentFolder = u"C:\\Actual";
-  std::set<std::u16string, std::less<>> found;  // what Matches finds, besides the folders made
-  std::set<std::u16string, std::less<>> cannotBeMade;
-  std::set<std::u16string, std::less<>> cannotBeCurrent;
-  std::vector<std::u16string> made;
+  std::map<int, std::u16string> special{{5, u"C:\\Users\\ana\\Documents"},
+                                        {43, u"C:\\Program Files\\Common Files"}};
+  std::u16string workFolder = u"C:\\Users\\ana\\Trabajo\\";
+  std::u16string componentFolder = u"C:\\Programas\\Modelos";
+  std::u16string localData = u"C:\\Users\\ana\\AppData\\Local";
+  std::u16string userName = u"ana";
+  std::u16string currentFolder = u"C:\\Inicio";
+  std::set<std::u16string, std::less<>> existing{u"C:", u"C:\\Inicio", u"C:\\Users\\ana\\Trabajo"};
+  std::set<std::u16string, std::less<>> cannotBeSet;  // as the current folder, with its final backslash
+  bool makingFails = false;
+  std::vector<std::u16string> made;        // in order, those that failed as well
+  std::vector<std::u16string> currentSet;  // in order, as given
 
   [[nodiscard]] std::u16string CarpetaEspecial(int number) override {
-    const auto folder = special.find(number);
-    return folder == special.end() ? std::u16string() : folder->second;
+    const auto found = special.find(number);
+    return found == special.end() ? std::u16string() : found->second;
   }
   [[nodiscard]] std::u16string RutaTrabajo(std::u16string_view name) override {
-    return workingFolder + std::u16string(name);
+    return workFolder + std::u16string(name);
   }
   [[nodiscard]] std::u16string ComponentFolder() override { return componentFolder; }
   [[nodiscard]] std::u16string LocalData() override { return localData; }
@@ -39,20 +40,20 @@ class FakeFolders : public platform::Folders {
 
   [[nodiscard]] std::u16string CurrentFolder() override { return currentFolder; }
   void SetCurrentFolder(std::u16string_view folder) override {
-    if (cannotBeCurrent.contains(folder)) throw runtime::RuntimeError(runtime::ErrorNumber::PathNotFound);
+    currentSet.emplace_back(folder);
+    if (cannotBeSet.contains(folder)) throw runtime::RuntimeError(runtime::ErrorNumber::PathNotFound);
     currentFolder = folder;
+    if (currentFolder.ends_with(u'\\')) currentFolder.pop_back();
   }
   [[nodiscard]] std::u16string FullPath(std::u16string_view path) override {
-    const bool absolute = path.starts_with(u"\\\\") || (path.size() > 1 && path[1] == u':');
-    return absolute ? std::u16string(path) : currentFolder + u"\\" + std::u16string(path);
+    if (path.size() > 1 && path[1] == u':') return std::u16string(path);
+    return currentFolder + u"\\" + std::u16string(path);
   }
-  [[nodiscard]] bool Matches(std::u16string_view pattern) override {
-    return found.contains(pattern) || std::find(made.begin(), made.end(), pattern) != made.end();
-  }
+  [[nodiscard]] bool Matches(std::u16string_view pattern) override { return existing.contains(pattern); }
   bool Make(std::u16string_view folder) override {
-    if (cannotBeMade.contains(folder) || Matches(folder)) return false;
     made.emplace_back(folder);
-    return true;
+    if (makingFails) return false;
+    return existing.emplace(folder).second;
   }
 };
 

@@ -26,6 +26,7 @@ class MemoryFiles : public platform::Files {
   std::optional<runtime::ErrorNumber> failReplaceWith;  // then nothing is written
   std::optional<runtime::ErrorNumber> failReadWith;
   std::set<std::u16string, std::less<>> locked;  // for appending
+  std::optional<runtime::DateTime> lastChange;   // of every file
   std::u16string scratchFolder = u"C:\\Temp\\";
 
   [[nodiscard]] bool Exists(std::u16string_view path) override { return contents.contains(path); }
@@ -57,6 +58,10 @@ class MemoryFiles : public platform::Files {
   void TryAppend(std::u16string_view path) override {
     if (locked.contains(path)) throw runtime::RuntimeError(runtime::ErrorNumber::PermissionDenied);
     if (!contents.contains(path)) throw runtime::RuntimeError(runtime::ErrorNumber::FileNotFound);
+  }
+
+  [[nodiscard]] std::optional<runtime::DateTime> LastChange(std::u16string_view) override {
+    return lastChange;
   }
 
   [[nodiscard]] std::u16string ScratchFolder() override { return scratchFolder; }

@@ -5,6 +5,7 @@
 
 #include "platform/win32/errors.h"
 #include "platform/win32/handles.h"
+#include "platform/win32/paths.h"
 
 namespace qm::platform::win32 {
 namespace {
@@ -12,22 +13,6 @@ namespace {
 using runtime::ErrorNumber;
 
 constexpr DWORD kLargestTransfer = 16 * 1024 * 1024;
-
-// Windows takes a path beyond 247 characters only in full and with a prefix that says so.
-std::u16string SystemPath(std::u16string_view path) {
-  std::u16string given(path);
-  if (given.size() < MAX_PATH - 12 || given.starts_with(u"\\\\?\\")) return given;
-  std::u16string full(given.size() + MAX_PATH, u'\0');
-  DWORD length = GetFullPathNameW(Wide(given), static_cast<DWORD>(full.size()), WideBuffer(full), nullptr);
-  if (length > full.size()) {
-    full.resize(length);
-    length = GetFullPathNameW(Wide(given), length, WideBuffer(full), nullptr);
-  }
-  if (length == 0 || length > full.size()) return given;
-  full.resize(length);
-  if (full.starts_with(u"\\\\")) return u"\\\\?\\UNC\\" + full.substr(2);
-  return u"\\\\?\\" + full;
-}
 
 // A file's attributes, or nothing when there is none of that name.
 std::optional<DWORD> AttributesOf(const std::u16string& systemPath) {
@@ -74,15 +59,17 @@ class FileBeside {
       if (written == 0) Throw(ErrorNumber::DiskFull);
       bytes.remove_prefix(written);
     }
+  }
+  void Flush() {
     if (!FlushFileBuffers(file_.Get())) ThrowLastFileError();
-    file_.Reset();
   }
 
   // A move over the old file is one step, whoever dies meanwhile; ReplaceFile is several, and between them
   // there may be no file of that name.
-  void TakeThePlaceOf(const std::u16string& path) {
+  void TakeThePlaceOf(const std::u16string& path, DWORD writeThrough) {
+    file_.Reset();
     if (AttributesOf(path)) CarryOverFrom(path);
-    if (!MoveFileExW(Wide(name_), Wide(path), MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH)) {
+    if (!MoveFileExW(Wide(name_), Wide(path), MOVEFILE_REPLACE_EXISTING | writeThrough)) {
       ReplaceWhileRead(path, GetLastError());
     }
     kept_ = true;
@@ -187,7 +174,16 @@ void Win32Files::Replace(std::u16string_view path, std::string_view bytes) {
   CheckReplaceable(target);
   FileBeside fresh(target);
   fresh.Write(bytes);
-  fresh.TakeThePlaceOf(target);
+  fresh.Flush();
+  fresh.TakeThePlaceOf(target, MOVEFILE_WRITE_THROUGH);
+}
+
+void Win32Files::ReplaceUnflushed(std::u16string_view path, std::string_view bytes) {
+  const std::u16string target = SystemPath(path);
+  CheckReplaceable(target);
+  FileBeside fresh(target);
+  fresh.Write(bytes);
+  fresh.TakeThePlaceOf(target, 0);
 }
 
 void Win32Files::Delete(std::u16string_view path) {
@@ -203,6 +199,18 @@ void Win32Files::TryAppend(std::u16string_view path) {
                                    FILE_SHARE_READ | FILE_SHARE_WRITE, nullptr, OPEN_EXISTING,
                                    FILE_ATTRIBUTE_NORMAL, nullptr));
   if (!file) ThrowLastFileError();
+}
+
+std::optional<runtime::DateTime> Win32Files::LastChange(std::u16string_view path) {
+  WIN32_FILE_ATTRIBUTE_DATA data;
+  SYSTEMTIME universal;
+  SYSTEMTIME local;
+  if (!GetFileAttributesExW(Wide(SystemPath(path)), GetFileExInfoStandard, &data) ||
+      !FileTimeToSystemTime(&data.ftLastWriteTime, &universal) ||
+      !SystemTimeToTzSpecificLocalTime(nullptr, &universal, &local)) {
+    return std::nullopt;
+  }
+  return runtime::DateTime{local.wYear, local.wMonth, local.wDay, local.wHour, local.wMinute, local.wSecond};
 }
 
 std::u16string Win32Files::ScratchFolder() {

@@ -15,9 +15,11 @@ class Win32Files : public Files {
   // and nothing else does; only where Windows has already lost the name of the old one does the new content
   // stay beside it, under a name that ends in ".tmp".
   void Replace(std::u16string_view path, std::string_view bytes) override;
+  void ReplaceUnflushed(std::u16string_view path, std::string_view bytes) override;
   void Delete(std::u16string_view path) override;
   [[nodiscard]] bool CanRead(std::u16string_view path) override;
   void TryAppend(std::u16string_view path) override;
+  [[nodiscard]] std::optional<runtime::DateTime> LastChange(std::u16string_view path) override;
   [[nodiscard]] std::u16string ScratchFolder() override;
 };
 

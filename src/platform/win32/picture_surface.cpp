@@ -49,6 +49,12 @@ const Bitmap24* PictureSurface::Page() {
   return page_ ? &*page_ : nullptr;
 }
 
+PageImage PictureSurface::Image() {
+  const Bitmap24* page = Page();
+  if (!page) return {};
+  return {page->Width(), page->Height(), -static_cast<std::ptrdiff_t>(page->Stride()), page->Row(0)};
+}
+
 std::string PictureSurface::BmpBytes() {
   const Bitmap24* page = Page();
   return page ? page->BmpBytes() : std::string();

@@ -3,14 +3,16 @@
 // Errors: RuntimeError 7 for a page that memory has no room for.
 // It has no page until SetPageSize gives it one; every SetPageSize gives a new, white page.
 
+#include <memory>
 #include <optional>
 #include <string>
 
+#include "platform/picture_page.h"
 #include "platform/win32/canvas.h"
 
 namespace qm::platform::win32 {
 
-class PictureSurface : public Surface {
+class PictureSurface : public PicturePage {
  public:
   PictureSurface();
   PictureSurface(const PictureSurface&) = delete;
@@ -28,13 +30,19 @@ class PictureSurface : public Surface {
 
   // The page with all that was drawn so far; null before SetPageSize. Valid until the next drawing.
   [[nodiscard]] const Bitmap24* Page();
-  [[nodiscard]] std::string BmpBytes();  // of the page; empty before SetPageSize
+  [[nodiscard]] PageImage Image() override;       // valid until the next drawing
+  [[nodiscard]] std::string BmpBytes() override;  // empty before SetPageSize
 
  private:
   OwnedDc dc_;
   HGDIOBJ formerBitmap_;
   Canvas canvas_;
   std::optional<Bitmap24> page_;
+};
+
+class Win32PicturePages : public PicturePages {
+ public:
+  [[nodiscard]] std::unique_ptr<PicturePage> New() override { return std::make_unique<PictureSurface>(); }
 };
 
 }  // namespace qm::platform::win32

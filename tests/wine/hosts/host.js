@@ -89,7 +89,7 @@ expect("Campos", "", new ActiveXObject("Qm_Modelo_Impresion3.Campos").Valor);
 var email = new ActiveXObject("Qm_Modelo_Impresion3.Email");
 email.Recibo = true;
 expect("Recibo", true, email.Recibo);
-expect("Enviar", 445, numberOf(function () { email.Enviar(); }));
+expect("Enviar to nobody", "", email.Enviar());
 
 if (failures === 0) WScript.Echo("host finished: everything as expected");
 WScript.Quit(failures === 0 ? 0 : 1);

@@ -165,12 +165,16 @@ void Print(void* form, const wchar_t* modelFile, hosts::Expectations& expect) {
   for (BSTR text : {file, read, name, table, column, amount, value.bstrVal}) SysFreeString(text);
 }
 
-void CheckActionsToCome(void* form, hosts::Expectations& expect) {
-  constexpr auto kNotSupported = static_cast<HRESULT>(0x800A01BD);
-  BSTR text = nullptr;
-  expect.Result("EmailModelo", kNotSupported, At(form, 59, &text, &text, &text));
-  expect.Result("EnviarEmail", kNotSupported, At(form, 60));
-  expect.Result("CrearZip", kNotSupported, At(form, 61, &text, &text));
+// Nobody is to be written to, so nothing is handed off.
+void CheckMail(void* form, hosts::Expectations& expect) {
+  BSTR folder = SysAllocString(L"C:\\");
+  BSTR file = SysAllocString(L"carta.doc");
+  BSTR unused = nullptr;
+  expect.Result("put_Email", S_OK, At(form, 25, unused));
+  expect.Result("EmailModelo", S_OK, At(form, 59, &folder, &unused, &file));
+  expect.Result("EnviarEmail", S_OK, At(form, 60));
+  SysFreeString(folder);
+  SysFreeString(file);
 }
 
 }  // namespace
@@ -188,7 +192,7 @@ int wmain(int count, wchar_t** arguments) {
   if (form) {
     CheckFields(form, expect);
     CheckModelNumber(form, expect);
-    CheckActionsToCome(form, expect);
+    CheckMail(form, expect);
     Print(form, arguments[1], expect);
     Release(form);
   }
