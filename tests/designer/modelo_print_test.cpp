@@ -182,7 +182,7 @@ TEST_F(DesignerWindow, AsksToSaveWhenAFieldWasOnlyPressed) {
   EXPECT_THAT(dialogs.askedConfirmations, IsEmpty());
   window->TheCanvas().Press({0, 0}, Button::Left);
   window->TheCanvas().Release({0, 0});
-  EXPECT_TRUE(Doc().Modified()) << "the fields of the model start at the page's corner";
+  EXPECT_TRUE(Doc().Modified());
   EXPECT_TRUE(window->Form_Unload());
   EXPECT_THAT(dialogs.askedConfirmations, ElementsAre(kSavePrompt));
 }
