@@ -273,6 +273,45 @@ TEST_F(DamagedModelFile, IsKeptWhenTheCopyCannotTakeItsPlace) {
   EXPECT_EQ(File(), "<Modelos><Modelo Num");
 }
 
+TEST_F(DesignerWindow, AFileDamagedMeanwhileIsMendedBeforeTheModelIsSavedIntoIt) {
+  Open();
+  window->CREAR_NEW_Campo(u"NUEVO");
+  SetFile("<Modelos><Modelo Num");
+  window->Grabar();
+  EXPECT_THAT(Told(), ElementsAre(runtime::DescriptionOf(91)));
+  EXPECT_EQ(File(), "<Modelos><Modelo Num");
+  EXPECT_TRUE(Doc().Modified());
+  dialogs.confirmations = {true};
+  window->Grabar();
+  EXPECT_FALSE(Doc().Modified());
+  EXPECT_EQ(files.contents.at(modelFile.name + u".danado"), "<Modelos><Modelo Num");
+  Open(3);
+  EXPECT_THAT(Captions(), ElementsAre(u"TRES"));
+  Open(1);
+  EXPECT_THAT(Captions(), ElementsAre(u"UNO", u"DOS", u"NUEVO"));
+}
+
+TEST_F(DesignerWindow, AFileThatBeginsWithADeclarationIsNoDamagedOneAndIsNotSavedOver) {
+  Open();  // leaves a copy
+  const std::string declared = "<?xml version=\"1.0\"?>" + File();
+  SetFile(declared);
+  Open();
+  EXPECT_THAT(Captions(), IsEmpty());
+  window->CREAR_NEW_Campo(u"NUEVO");
+  window->Grabar();
+  EXPECT_THAT(dialogs.askedConfirmations, IsEmpty());
+  EXPECT_THAT(Told(), ElementsAre(runtime::DescriptionOf(91)));
+  EXPECT_EQ(File(), declared);
+}
+
+TEST_F(DesignerWindow, AModelNumberThatTheListDoesNotHaveIsNotChosen) {
+  Open();
+  window->ModelChosen(-1);
+  window->ModelChosen(9);
+  EXPECT_EQ(window->Numero(), 1);
+  EXPECT_THAT(Captions(), SizeIs(2));
+}
+
 TEST_F(DesignerWindow, AModelThatCouldNotBeReadIsNotSavedOverOnceTheFileIsThere) {
   files.failReadWith = runtime::ErrorNumber::PermissionDenied;
   Open();
