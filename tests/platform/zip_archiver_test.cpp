@@ -74,6 +74,14 @@ TEST_F(ZipArchives, AnEntryOfTheSameNameIsReplacedWhateverTheCaseOfItsLetters) {
   EXPECT_THAT(EntriesOf(Bytes()), ElementsAre(Pair("UNO.TXT", "otro"), Pair("dos.txt", "dos")));
 }
 
+TEST_F(ZipArchives, AnEntryIsReplacedWhateverTheCaseOfItsLettersBeyondAscii) {
+  files.contents[u"C:\\a\\Peña·€.pdf"] = "uno";
+  files.contents[u"C:\\c\\PEÑA·€.PDF"] = "otro";
+  ASSERT_EQ(archiver.Add(kArchive, {u"C:\\a\\Peña·€.pdf"}), ZipResult::Done);
+  ASSERT_EQ(archiver.Add(kArchive, {u"C:\\c\\PEÑA·€.PDF"}), ZipResult::Done);
+  EXPECT_THAT(EntriesOf(Bytes()), ElementsAre(Pair(runtime::ToUtf8(u"PEÑA·€.PDF"), "otro")));
+}
+
 TEST_F(ZipArchives, OfTwoFilesOfTheSameNameTheLaterOneIsKept) {
   files.contents[u"C:\\b\\uno.txt"] = "segundo";
   ASSERT_EQ(archiver.Add(kArchive, {u"C:\\a\\uno.txt", u"C:\\b\\uno.txt"}), ZipResult::Done);
