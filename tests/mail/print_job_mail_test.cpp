@@ -213,8 +213,7 @@ class WhenAStepFails : public SendingAPrintJob {
   WhenAStepFails() { refusing.contents = files.contents; }
 
   Refusing refusing;
-  print::Environment otherPrinting{refusing, printers, spooler,   pictures,   prompts,
-                                   settings, clock,    modelFile, paperForms, runtime::Locale::Spanish()};
+  print::Environment otherPrinting = PrintingWith(refusing);
   Environment other{otherPrinting, folders, processes, archiver, pages, profiles, random};
 };
 
