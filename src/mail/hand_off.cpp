@@ -149,9 +149,11 @@ void PackAll(std::u16string_view archive, const LooseFiles& loose, const HandOff
 }
 
 void StartSender(std::u16string_view rutaEmail, const Environment& environment) {
-  const std::u16string program =
-      environment.folders.CarpetaEspecial(kCommonProgramFiles) + u"\\Quillmar\\Qmenviar.exe";
-  environment.processes.StartHidden(program, std::u16string(u"\"").append(rutaEmail).append(u"\""));
+  const std::u16string folder = environment.folders.CarpetaEspecial(kCommonProgramFiles);
+  // Without it the path would be one of the current drive, which may be an attachment's.
+  if (folder.empty()) throw RuntimeError(runtime::ErrorNumber::FileNotFound);
+  environment.processes.StartHidden(folder + u"\\Quillmar\\Qmenviar.exe",
+                                    std::u16string(u"\"").append(rutaEmail).append(u"\""));
 }
 
 }  // namespace
@@ -165,6 +167,8 @@ std::u16string NombresAdjuntos(const std::vector<std::u16string>& paths) {
 void AddReferences(HandOff& message, const Environment& environment) {
   const std::u16string list = text::ReferencedFiles(message.body, message.request.htmDir);
   for (const std::u16string& path : runtime::Split(list, u";")) {
+    // A name with a ";" in it has fallen apart, and its later part could be any file of the disk.
+    if (!path.starts_with(message.request.htmDir)) continue;
     // In full: packing changes the current folder, in which it was found.
     if (CanTravel(path, environment.print.files))
       message.references.push_back(environment.folders.FullPath(path));
