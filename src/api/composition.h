@@ -38,6 +38,8 @@ class Composition {
 
   // False when the user ended the printing early.
   [[nodiscard]] bool Imprimir(data::PrintJob& job);
+  // The designer, until it is closed.
+  void Show(data::PrintJob& job);
 
   // Calls action(const mail::Environment&) and gives back what it does.
   template <class Action>

@@ -16,7 +16,6 @@ using automation::Import;
 using automation::OwnedVariant;
 using automation::Required;
 using automation::TextOf;
-using automation::ThrowNotSupported;
 using Qm_Modelo_Impresion3::_Campos;
 using Qm_Modelo_Impresion3::_QmFileControl2;
 using Qm_Modelo_Impresion3::_Tablas;
@@ -160,7 +159,11 @@ HRESULT PrintForm::CrearZip(BSTR* eDir, BSTR* zipFile) noexcept {
   });
 }
 
-// The designer is not part of this version.
-HRESULT PrintForm::Show() noexcept { return Call(ThrowNotSupported); }
+HRESULT PrintForm::Show() noexcept {
+  return Call([&] {
+    job_.numeroModelo = ModelNumberOf(numeroModelo_.Get());
+    composition_.Show(job_);
+  });
+}
 
 }  // namespace qm::api

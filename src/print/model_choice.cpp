@@ -23,12 +23,12 @@ struct NumberReader {
   }
 };
 
-std::int32_t WantedNumber(const data::PrintJob& job, const runtime::Locale& locale) {
+}  // namespace
+
+std::int32_t WantedModel(const data::PrintJob& job, const runtime::Locale& locale) {
   const double number = std::visit(NumberReader{locale}, job.numeroModelo);
   return number == 0 ? kDefaultModel : runtime::CLng(number);
 }
-
-}  // namespace
 
 model::ModelTexts FindCurrentModel(const data::PrintJob& job, const Environment& environment) {
   const std::u16string& name = environment.modelFile.name;
@@ -38,7 +38,7 @@ model::ModelTexts FindCurrentModel(const data::PrintJob& job, const Environment&
   if (!bytes || bytes->empty())
     throw RuntimeError(50100, u"No existen modelos de impresión...debe crearlos primero");
 
-  const std::int32_t number = WantedNumber(job, environment.locale);
+  const std::int32_t number = WantedModel(job, environment.locale);
   auto model = model::ModelDocument::Parse(*bytes).Find(number);
   if (!model) throw RuntimeError(50102, u"No existe el modelo de impresión...debe crearlo primero");
   return *std::move(model);

@@ -9,6 +9,9 @@
 
 namespace qm::print {
 
+// Nothing and "" stand for model 1. Errors: 94 and 13 as above.
+[[nodiscard]] std::int32_t WantedModel(const data::PrintJob& job, const runtime::Locale& locale);
+
 [[nodiscard]] model::ModelTexts FindCurrentModel(const data::PrintJob& job, const Environment& environment);
 
 }  // namespace qm::print

@@ -34,7 +34,8 @@ constexpr int kReadout = 270;
 // Numbers of the labels in the order in which they are made.
 enum Label { kLabelModelo, kLabelImpresora, kLabel1, kLabel2, kLabel3, kLabel4 };
 
-int RowHeight(const Metrics& metrics) { return metrics.TextHeight() + metrics.Px(9); }
+// Boxes put their text at the top: higher ones would look uneven.
+int RowHeight(const Metrics& metrics) { return metrics.TextHeight() + 9; }
 int ToolbarHeight(const Metrics& metrics) { return metrics.Px(kButton) + metrics.Px(kGap) * 2; }
 int FrameHeight(const Metrics& metrics, int rows) {
   return metrics.TextHeight() + metrics.Px(4) + rows * (RowHeight(metrics) + metrics.Px(kGap)) +

@@ -87,4 +87,15 @@ Bitmap32 NewIcon(Icon icon, int side) {
   return bitmap;
 }
 
+OwnedIcon NewWindowIcon(int side) {
+  const Bitmap32 drawing = NewIcon(Icon::ImprimirPrueba, side);
+  const std::vector<std::uint8_t> nothing(static_cast<std::size_t>((side + 15) / 16 * 2 * side));
+  const platform::win32::OwnedBitmap mask(CreateBitmap(side, side, 1, 1, nothing.data()));
+  ICONINFO description{};
+  description.fIcon = TRUE;
+  description.hbmMask = mask.Get();
+  description.hbmColor = drawing.Handle();
+  return OwnedIcon(CreateIconIndirect(&description));
+}
+
 }  // namespace qm::designer::win32

@@ -11,4 +11,11 @@ enum class Icon { Grabar, ImprimirPrueba, Papel };
 // Square; its pixels carry their opacity, as AlphaBlend wants them.
 [[nodiscard]] Bitmap32 NewIcon(Icon icon, int side);
 
+struct IconRule : platform::win32::NullHandle<HICON> {
+  static void Close(HICON icon) { DestroyIcon(icon); }
+};
+using OwnedIcon = platform::win32::Owned<IconRule>;
+
+[[nodiscard]] OwnedIcon NewWindowIcon(int side);
+
 }  // namespace qm::designer::win32

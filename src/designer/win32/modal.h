@@ -1,27 +1,9 @@
 #pragma once
-// What makes a window modal within a call of the host: the thread's other windows rest until it is closed,
-// and messages are taken from the queue here meanwhile.
-
-#include <vector>
+// The message loop of a window that is modal within a call of the host.
 
 #include "platform/win32/wide.h"
 
 namespace qm::designer::win32 {
-
-// Visible windows of this thread that are enabled; disabled for a scope.
-class RestingWindows {
- public:
-  RestingWindows();
-  RestingWindows(const RestingWindows&) = delete;
-  RestingWindows& operator=(const RestingWindows&) = delete;
-  ~RestingWindows() { Wake(); }
-
-  // Before the window they rest for is destroyed, or Windows would activate another program's.
-  void Wake();
-
- private:
-  std::vector<HWND> windows_;
-};
 
 class ModalWindow {
  public:

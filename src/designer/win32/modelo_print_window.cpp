@@ -67,13 +67,16 @@ void ShowScroll(HWND bar, int position, int most, int visible) {
 }  // namespace
 
 ModeloPrintWindow::ModeloPrintWindow(const Environment& environment, const data::PickerMenus& menus,
-                                     std::int16_t numeroModelo, HWND owner)
+                                     std::int16_t numeroModelo)
     : dialogs_(environment.dialogs),
       presenter_(environment, *this, menus, numeroModelo),
       menuBar_(NewMenuBar(menus)) {
   const platform::win32::VisualStyles currentLook;
-  CreateForm(owner);
+  CreateForm();
   metrics_.emplace(Handle());
+  icon_ = NewWindowIcon(metrics_->Px(32));
+  SendMessageW(Handle(), WM_SETICON, ICON_BIG, reinterpret_cast<LPARAM>(icon_.Get()));
+  SendMessageW(Handle(), WM_SETICON, ICON_SMALL, reinterpret_cast<LPARAM>(icon_.Get()));
   controls_ = FormControls(Handle());
   controls_.Create(*metrics_);
   page_.emplace(presenter_, environment, Handle(), kBasePin, metrics_->Dpi());
@@ -83,12 +86,11 @@ ModeloPrintWindow::ModeloPrintWindow(const Environment& environment, const data:
                SWP_NOZORDER | SWP_NOACTIVATE);
 }
 
-void ModeloPrintWindow::CreateForm(HWND owner) {
+void ModeloPrintWindow::CreateForm() {
   Create({.className = kClassName,
           .title = L"Modelos de Impresión",
           .style = WS_OVERLAPPEDWINDOW | WS_CLIPCHILDREN,
-          .extendedStyle = WS_EX_CONTROLPARENT,
-          .parent = owner});
+          .extendedStyle = WS_EX_CONTROLPARENT});
   SetMenu(Handle(), menuBar_.Release());
 }
 
@@ -98,7 +100,7 @@ void ModeloPrintWindow::Open() {
   ShowWindow(Handle(), SW_SHOW);
   SetForegroundWindow(Handle());
   SetFocus(page_->Handle());
-  UpdateWindow(Handle());
+  RedrawWindow(Handle(), nullptr, nullptr, RDW_UPDATENOW | RDW_ALLCHILDREN);
 }
 
 // ---- What the presenter shows

@@ -6,6 +6,7 @@
 #include <optional>
 
 #include "designer/win32/form_controls.h"
+#include "designer/win32/icons.h"
 #include "designer/win32/modal.h"
 #include "designer/win32/page_view.h"
 
@@ -15,9 +16,9 @@ class ModeloPrintWindow final : public Window, public View, public ModalWindow {
  public:
   static constexpr wchar_t kClassName[] = L"ModeloPrint";
 
-  // Hidden; the owner is a window of the host, or null.
-  ModeloPrintWindow(const Environment& environment, const data::PickerMenus& menus, std::int16_t numeroModelo,
-                    HWND owner);
+  // Hidden, and owned by no window of the host.
+  ModeloPrintWindow(const Environment& environment, const data::PickerMenus& menus,
+                    std::int16_t numeroModelo);
   ~ModeloPrintWindow() override = default;
 
   void Open();  // Form_Load, and shows it
@@ -67,7 +68,7 @@ class ModeloPrintWindow final : public Window, public View, public ModalWindow {
   void CopiesSelected();
   void EtiquetaClicked() { presenter_.ChEsEtiqueta_Click(controls_.Ticked(kEsEtiqueta)); }
 
-  void CreateForm(HWND owner);
+  void CreateForm();
   void AdjustForm();
   void ShowScrollBars();
   void TrackMenu(PopUp menu, POINT at);
@@ -76,6 +77,7 @@ class ModeloPrintWindow final : public Window, public View, public ModalWindow {
 
   platform::Dialogs& dialogs_;
   ModeloPrint presenter_;
+  OwnedIcon icon_;
   OwnedMenu menuBar_;  // until it is the window's
   std::optional<Metrics> metrics_;
   FormControls controls_{nullptr};

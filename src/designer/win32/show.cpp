@@ -2,6 +2,7 @@
 
 #include "designer/win32/modelo_print_window.h"
 #include "platform/win32/errors.h"
+#include "platform/win32/other_windows.h"
 
 namespace qm::designer::win32 {
 namespace {
@@ -14,6 +15,20 @@ BOOL CALLBACK IsNoDesigner(HWND window, LPARAM found) noexcept {
   return FALSE;
 }
 
+// The host's window in front, which comes there again at the end.
+class ActiveWindow {
+ public:
+  ActiveWindow() : window_(GetActiveWindow()) {}
+  ActiveWindow(const ActiveWindow&) = delete;
+  ActiveWindow& operator=(const ActiveWindow&) = delete;
+  ~ActiveWindow() {
+    if (window_ && IsWindow(window_)) SetActiveWindow(window_);
+  }
+
+ private:
+  HWND window_;
+};
+
 }  // namespace
 
 void RequireNotShown() {
@@ -25,8 +40,9 @@ void RequireNotShown() {
 void ShowModeloPrint(const Environment& environment, const data::PickerMenus& menus,
                      std::int16_t numeroModelo) {
   RequireNotShown();
-  ModeloPrintWindow window(environment, menus, numeroModelo, GetActiveWindow());
-  RestingWindows others;  // awake again before the window goes
+  const ActiveWindow host;
+  ModeloPrintWindow window(environment, menus, numeroModelo);
+  const platform::win32::OtherWindows others(nullptr);  // enabled again before the window goes
   window.Open();
   RunModal(window);
 }

@@ -2,8 +2,6 @@
 // A clerk before the designer: a thread that waits for the window, acts on it and, unless it is closed by
 // then, closes it. Plain actions are sent; what opens a dialog or a menu is posted.
 
-#include <commctrl.h>
-
 #include <atomic>
 #include <functional>
 #include <string>

@@ -196,9 +196,9 @@ class Clerk:
     def type(self, text):
         xdotool("type", "--delay", 20, text)
 
-    def open_menu(self, letter, items):
-        """A menu of the bar by its access key, as the pop-up that has come, of that many equally high items."""
-        self.key(f"alt+{letter}")
+    def open_menu(self, position, items):
+        """A menu of the bar by the keyboard, as the pop-up that has come, of that many equally high items."""
+        self.key("F10", *["Right"] * position, "Down")
         return self.popup(items)
 
     def popup(self, items, number=1):
@@ -226,10 +226,10 @@ class Clerk:
     def fields(self, number=1):
         return read_models(self.models)[str(number)][1]
 
-    def save(self):
-        """By the toolbar, and waits until the file has been written anew."""
+    def save(self, act=None):
+        """By the keyboard or as the caller does it; waits until the file has been written anew."""
         before = os.stat(self.models)
-        self.click(self.control(GRABAR))
+        (act or (lambda: self.key("ctrl+s")))()
         until("the model file to be written", lambda: self.written_since(before))
 
     def written_since(self, before):

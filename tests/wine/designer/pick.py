@@ -2,16 +2,18 @@
 """The clerk places a field from a picker menu and a text from "#", deletes a field and takes that back."""
 from clerk import expect, run
 
+CAMPOS_DISPONIBLES, CLIENTES = 3, 4  # in the menu bar
+
 
 def act(clerk):
     before = clerk.fields()
 
     # From the menu of a table, whose entries are those of its definition file.
-    menu = clerk.open_menu("m", 6)
+    menu = clerk.open_menu(CLIENTES, 6)
     clerk.screenshot()
     clerk.pick_last(menu, 1)
     # From the host's fields: a text of the clerk's own, asked for.
-    clerk.pick_last(clerk.open_menu("c", 7), 0)
+    clerk.pick_last(clerk.open_menu(CAMPOS_DISPONIBLES, 7), 0)
     prompt = clerk.dialog("Mensaje")
     clerk.type("Entregado por: J. Gil")
     clerk.screenshot()

@@ -1,6 +1,6 @@
 #!/usr/bin/env python3
 """The clerk opens the designer, chooses a model in the toolbar, drags a field and saves."""
-from clerk import ALTO, ANCHO, LAB_POS, MODELOS, expect_models, read_models, run
+from clerk import ALTO, ANCHO, GRABAR, LAB_POS, MODELOS, expect_models, read_models, run
 
 
 def act(clerk):
@@ -18,7 +18,7 @@ def act(clerk):
     clerk.wait_text(LAB_POS, "Posicion Ancho:9,80; Posición Alto:1,76")
     clerk.screenshot()
     expect_models(before, read_models(clerk.models))
-    clerk.save()
+    clerk.save(lambda: clerk.click(clerk.control(GRABAR)))
 
     after = read_models(clerk.models)
     before["1"][0].update(Copias="02", Printer="")  # as the lists show them

@@ -2,8 +2,8 @@
 """The clerk sizes a field by each of its four edge handles; a corner handle does nothing."""
 from clerk import expect, run
 
-LEFT, TOP, WIDTH, HEIGHT = 1020, 8560, 5400, 1000  # "Observaciones"
-INDEX = 59
+LEFT, TOP, WIDTH, HEIGHT = 1020, 2660, 5200, 560  # DIRECCION (CLIEN)
+INDEX = 7
 
 
 def act(clerk):
@@ -18,16 +18,16 @@ def act(clerk):
 
     # Handles are six pixels wide and lie outside, at the middles of the edges. Only a click shows them; the
     # first drag would move the field if they were not there.
-    clerk.click_page(LEFT + 2000, TOP + 500)
+    clerk.click_page(LEFT + 2000, TOP + 280)
     clerk.screenshot()
-    drag_and_save("the bottom edge", (LEFT + WIDTH / 2, TOP + HEIGHT + 45), 3, 10, Height=1150)
-    drag_and_save("the top edge", (LEFT + WIDTH / 2, TOP - 45), -7, 4, Top=8620, Height=1090)
-    drag_and_save("the right edge", (LEFT + WIDTH + 45, 8620 + 1090 / 2), -60, 9, Width=4500)
-    drag_and_save("the left edge", (LEFT - 45, 8620 + 1090 / 2), 20, -5, Left=1320, Width=4200)
-    drag_and_save("a corner", (1320 + 4200 + 45, 8620 + 1090 + 45), 30, 30)
+    drag_and_save("the bottom edge", (LEFT + WIDTH / 2, TOP + HEIGHT + 45), 3, 10, Height=710)
+    drag_and_save("the top edge", (LEFT + WIDTH / 2, TOP - 45), -7, 4, Top=2720, Height=650)
+    drag_and_save("the right edge", (LEFT + WIDTH + 45, 2720 + 650 / 2), -60, 9, Width=4300)
+    drag_and_save("the left edge", (LEFT - 45, 2720 + 650 / 2), 20, -5, Left=1320, Width=4000)
+    drag_and_save("a corner", (1320 + 4000 + 45, 2720 + 650 + 45), 30, 30)
 
     # No further than to the opposite edge.
-    drag_and_save("past the opposite edge", (1320 + 4200 / 2, 8620 - 45), 0, 90, Top=9710, Height=0)
+    drag_and_save("past the opposite edge", (1320 + 4000 / 2, 2720 - 45), 0, 90, Top=3370, Height=0)
     clerk.screenshot()
     clerk.close()
 
