@@ -5,6 +5,7 @@ waits for a fixed time: every wait names what it waits for and gives up after LI
 Units: twips on the page; pixels on the screen, 15 twips each while nothing is zoomed.
 """
 import atexit
+import contextlib
 import hashlib
 import json
 import os
@@ -157,6 +158,13 @@ class Clerk:
         control = self.control(number, window)
         return control and control["text"]
 
+    def wait_focus(self, number, window):
+        """A control that the keyboard acts on now."""
+        def has_focus():
+            control = self.control(number, window)
+            return control and self.look()["focus"] == control["handle"]
+        until(f"control {number} to have the focus", has_focus)
+
     def wait_text(self, number, expected, window=None):
         try:
             until("a text", lambda: self.text_of(number, window) == expected)
@@ -182,16 +190,33 @@ class Clerk:
         self.click_at(*self.point(left, top), button)
 
     def drag(self, start, right, down):
-        """From a place of the page, by whole pixels, in several movements as a hand does."""
-        x, y = self.point(*start)
+        """From a place of the page, by whole pixels."""
+        self.drag_at(*self.point(*start), right, down)
+
+    @staticmethod
+    def drag_at(x, y, right, down):
+        """In several movements, as a hand does."""
         xdotool("mousemove", x, y, "mousedown", 1)
         steps = 4
         for step in range(1, steps + 1):
             xdotool("mousemove", x + right * step // steps, y + down * step // steps)
         xdotool("mouseup", 1)
 
+    @contextlib.contextmanager
+    def held(self, key):
+        xdotool("keydown", key)
+        try:
+            yield
+        finally:
+            xdotool("keyup", key)
+
     def key(self, *keys):
         xdotool("key", "--delay", 20, *keys)
+
+    def retype(self, text):
+        """In place of what the box with the focus says."""
+        self.key("Home", "shift+End")
+        self.type(text)
 
     def type(self, text):
         xdotool("type", "--delay", 20, text)
@@ -236,6 +261,10 @@ class Clerk:
         now = os.stat(self.models)
         return (now.st_ino, now.st_mtime_ns) != (before.st_ino, before.st_mtime_ns)
 
+    def expect_field(self, what, index, **values):
+        field = self.fields()[index]
+        expect(what, values, {name: field[name] for name in values})
+
     def close(self):
         """The window, with nothing left to save; the host comes to its end."""
         self.key("alt+F4")
@@ -266,11 +295,11 @@ class Clerk:
         return path
 
 
-def run(name, act, number=1):
+def run(name, act, number=1, models=None):
     """A whole run; what went wrong is told, with a picture of it."""
     clerk = None
     try:
-        clerk = Clerk(name, number)
+        clerk = Clerk(name, number, models)
         act(clerk)
     except Failed as failure:
         if clerk:
