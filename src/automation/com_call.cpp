@@ -92,6 +92,4 @@ void ThrowFailure(HRESULT result, std::u16string description) {
   throw RuntimeError(number, std::move(description));
 }
 
-void ThrowNotSupported() { throw RuntimeError(kNotSupported, u"El objeto no admite esta acción"); }
-
 }  // namespace qm::automation

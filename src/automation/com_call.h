@@ -15,7 +15,6 @@
 
 namespace qm::automation {
 
-inline constexpr int kNotSupported = 445;
 inline constexpr int kNoSuchMember = 438;
 inline constexpr int kAutomationError = 440;
 
@@ -34,8 +33,6 @@ void ThrowIfFailed(HRESULT result);
 // The same for what an object raised with that text. A runtime's error keeps its number, any other failure
 // its result.
 [[noreturn]] void ThrowFailure(HRESULT result, std::u16string description);
-
-[[noreturn]] void ThrowNotSupported();
 
 template <class T>
 T& Required(T* pointer) {

@@ -4,6 +4,7 @@
 #include <cmath>
 #include <utility>
 
+#include "designer/boxes.h"
 #include "designer/readout.h"
 
 namespace qm::designer {
@@ -29,14 +30,6 @@ Box Sized(Box box, float x, float y) {
   return box;
 }
 
-void SetBox(Layout& layout, int index, const Box& box) {
-  if (index != 0) return ChangeField(layout, index, [&box](Field& field) { field.box = box; });
-  if (!layout.logo || layout.logo->box == box) return;
-  Logo logo = *layout.logo;
-  logo.box = box;
-  layout.logo = std::make_shared<const Logo>(std::move(logo));
-}
-
 }  // namespace
 
 Canvas::Canvas(Document& document, View& view, runtime::Locale locale)
@@ -60,7 +53,7 @@ void Canvas::Press(platform::Point at, Button button) {
 
 void Canvas::PressHandle(int handle, platform::Point at) {
   const int index = document_.Selected();
-  StartDrag(Drag::OfHandle(index, *BoxOf(index), handle, HandleSize(), at));
+  StartDrag(Drag::OfHandle(index, *BoxOf(document_.Current(), index), handle, HandleSize(), at));
 }
 
 void Canvas::PressField(int index, platform::Point at, Button button) {
@@ -73,7 +66,7 @@ void Canvas::PressField(int index, platform::Point at, Button button) {
   }
   if (handlesOf_ != index) handlesOf_ = 0;
   view_.MarksChanged();
-  StartDrag(Drag::Whole(index, *BoxOf(index), at));
+  StartDrag(Drag::Whole(index, *BoxOf(document_.Current(), index), at));
 }
 
 void Canvas::PressLogo(platform::Point at) {
@@ -93,14 +86,14 @@ void Canvas::Move(platform::Point at, bool leftHeld, Modifiers modifiers) {
   if (!leftHeld) return EndDrag();
   at = OnWholeTwips(at);
   drag_->MovedTo(at);
-  if (!drag_->Moved() || BoxOf(drag_->Field()) == nullptr) return;
+  if (!drag_->Moved() || BoxOf(document_.Current(), drag_->Field()) == nullptr) return;
   if (drag_->Handle() == 0) handlesOf_ = 0;
   if (drag_->Handle() != 0 && !CanBeDragged(drag_->Handle())) return;
 
   guides_.clear();
   const float tolerance = kSnapDistance / static_cast<float>(Zoom());
   const Box box = drag_->BoxAt(at, modifiers, document_.Current(), tolerance, guides_);
-  document_.Edit([&](Layout& layout) { SetBox(layout, drag_->Field(), box); });
+  document_.EditBox(drag_->Field(), box);
   view_.MarksChanged();
   ShowReadout(box);
 }
@@ -108,7 +101,7 @@ void Canvas::Move(platform::Point at, bool leftHeld, Modifiers modifiers) {
 void Canvas::Release(platform::Point at) {
   if (!drag_) return;
   const int pressed = drag_->Handle() == 0 ? drag_->Field() : 0;
-  const Box* box = pressed != 0 ? BoxOf(pressed) : nullptr;
+  const Box* box = pressed != 0 ? BoxOf(document_.Current(), pressed) : nullptr;
   const bool clicked = box != nullptr && !drag_->Moved() && Contains(*box, OnWholeTwips(at));
   EndDrag();
   if (clicked) ShowHandlesOf(pressed);
@@ -130,7 +123,8 @@ void Canvas::CancelDrag() {
   handlesOf_ = handlesOfBeforeDrag_;
   guides_.clear();
   view_.MarksChanged();
-  if (const Box* box = BoxOf(drag.Field()); box != nullptr && drag.Moved()) ShowReadout(*box);
+  if (const Box* box = BoxOf(document_.Current(), drag.Field()); box != nullptr && drag.Moved())
+    ShowReadout(*box);
 }
 
 Pointer Canvas::PointerAt(platform::Point at) const {
@@ -186,7 +180,7 @@ void Canvas::NextField(bool backwards) {
     index += backwards ? -1 : 1;
     if (index >= count) index = 1;
     if (index < 1) index = count - 1;
-    const Box* box = BoxOf(index);
+    const Box* box = BoxOf(document_.Current(), index);
     if (box == nullptr) continue;
     ShowHandlesOf(index);
     return Reveal(*box);
@@ -230,16 +224,9 @@ void Canvas::ZoomToActualSize() {
   view_.PlaceChanged();
 }
 
-const Box* Canvas::BoxOf(int index) const {
-  const Layout& layout = document_.Current();
-  if (index == 0) return layout.logo ? &layout.logo->box : nullptr;
-  const Field* field = layout.At(index);
-  return field != nullptr ? &field->box : nullptr;
-}
-
 const Box* Canvas::SelectedBox() const {
   if (document_.Selected() == 0 && !document_.LogoSelected()) return nullptr;
-  return BoxOf(document_.Selected());
+  return BoxOf(document_.Current(), document_.Selected());
 }
 
 void Canvas::ShowReadout(const Box& box) { view_.ShowReadout(Readout(box, locale_)); }

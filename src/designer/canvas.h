@@ -3,6 +3,7 @@
 // Units:  twips from the page's top-left corner; scroll values are twips of the page. The mouse is taken to
 //         stand on whole twips, so that at any resolution and zoom whole twips are stored.
 
+#include <algorithm>
 #include <optional>
 #include <vector>
 
@@ -56,8 +57,9 @@ class Canvas {
   [[nodiscard]] const std::vector<Guide>& Guides() const { return guides_; }
 
   void ScrollTo(int horizontal, int vertical);
-  [[nodiscard]] int Horizontal() const { return place_.Horizontal(); }
-  [[nodiscard]] int Vertical() const { return place_.Vertical(); }
+  // Within the limits also when the page has become smaller.
+  [[nodiscard]] int Horizontal() const { return std::min(place_.Horizontal(), HorizontalMax()); }
+  [[nodiscard]] int Vertical() const { return std::min(place_.Vertical(), VerticalMax()); }
   [[nodiscard]] int HorizontalMax() const { return PagePlace::HorizontalMax(document_.Current()); }
   [[nodiscard]] int VerticalMax() const { return PagePlace::VerticalMax(document_.Current()); }
   // The viewport's size in twips of the screen, so that a field reached by keys can be brought into sight.
@@ -72,8 +74,6 @@ class Canvas {
   void PressField(int index, platform::Point at, Button button);
   void PressLogo(platform::Point at);
   void StartDrag(const Drag& drag);
-  // The field of that index, or the logo for 0.
-  [[nodiscard]] const Box* BoxOf(int index) const;
   [[nodiscard]] const Box* SelectedBox() const;
   void ShowReadout(const Box& box);
   void Reveal(Box box);

@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <utility>
 
+#include "designer/boxes.h"
+
 namespace qm::designer {
 
 namespace {
@@ -19,11 +21,31 @@ void ShareEqualParts(Layout& layout, const Layout& earlier) {
   for (std::size_t i = 0; i < common; ++i) ShareEqual(layout.men[i], earlier.men[i]);
 }
 
+void ShareBox(Layout& layout, int index, const Layout& other) {
+  if (index == 0)
+    layout.logo = other.logo;
+  else
+    layout.men[static_cast<std::size_t>(index)] = other.men[static_cast<std::size_t>(index)];
+}
+
 }  // namespace
 
 void Document::Edit(const std::function<void(Layout&)>& change) {
   inRun_ = false;
   Apply(change);
+}
+
+// The listener is given the layout before, and copying all fields for that at each step of a drag would be
+// most of the step. So a twin of the layout stays one box behind.
+void Document::EditBox(int index, const Box& box) {
+  const Box* old = BoxOf(layout_, index);
+  if (old == nullptr || *old == box) return;
+  if (!gestureStart_) return Edit([&](Layout& layout) { SetBox(layout, index, box); });
+  if (!twin_) twin_ = layout_;
+  SetBox(layout_, index, box);
+  modified_ = true;
+  if (listener_) listener_(*twin_, layout_);
+  ShareBox(*twin_, index, layout_);
 }
 
 void Document::EditInRun(const std::function<void(Layout&)>& change, bool goesOn) {
@@ -60,6 +82,7 @@ void Document::BeginGesture() {
 
 void Document::EndGesture() {
   inGesture_ = inRun_ = false;
+  twin_.reset();
   if (!gestureStart_) return;
   ShareEqualParts(*gestureStart_, layout_);
   if (*gestureStart_ != layout_) Remember(std::move(*gestureStart_));
@@ -68,6 +91,7 @@ void Document::EndGesture() {
 
 void Document::CancelGesture() {
   inGesture_ = inRun_ = false;
+  twin_.reset();
   if (!gestureStart_) return;
   modified_ = modifiedBeforeGesture_;
   Become(std::move(*gestureStart_));
@@ -138,6 +162,7 @@ void Document::Remember(Layout earlier) {
 }
 
 void Document::Become(Layout layout) {
+  twin_.reset();
   const Layout before = std::exchange(layout_, std::move(layout));
   if (layout_.At(selected_) == nullptr) selected_ = 0;
   if (!layout_.logo) logoSelected_ = false;

@@ -26,6 +26,8 @@ class Document {
 
   // One edit: marks the layout modified and is one step of undo. A change that changes nothing is none.
   void Edit(const std::function<void(Layout&)>& change);
+  // One edit that places a field or, by 0, the logo. Amid a gesture it takes no longer with many fields.
+  void EditBox(int index, const Box& box);
   // One edit of a run, as a key makes that is held down: when it goes on, it belongs to the step of the edit
   // before, provided that was of a run as well and nothing else came between.
   void EditInRun(const std::function<void(Layout&)>& change, bool goesOn);
@@ -70,6 +72,7 @@ class Document {
   bool inGesture_ = false;
   bool modifiedBeforeGesture_ = false;
   std::optional<Layout> gestureStart_;  // once something changed
+  std::optional<Layout> twin_;          // equal to the layout, while boxes are placed amid a gesture
   bool inRun_ = false;                  // an edit of a run came last, with the same selection
   bool modified_ = false;
   int selected_ = 0;

@@ -40,8 +40,8 @@ std::vector<std::u16string> Sizes() {
   return sizes;
 }
 
-// A printer's fonts are numbered from 0. The first has never been on offer: they are asked for from 1 up to
-// and including their count, and the empty answer there is skipped like every nameless font.
+// A printer's fonts are numbered from 0, and the first is not on offer: they are asked for from 1 up to and
+// including their count, and the empty answer there is skipped like every nameless font.
 std::vector<std::u16string> OfferedFonts(platform::Printers& printers, std::u16string_view printer) {
   std::vector<std::u16string> all;
   try {

@@ -59,6 +59,18 @@ void LastCopy::Keep(std::string_view bytes) {
   }
 }
 
+void LastCopy::KeepFile() {
+  try {
+    Keep(files_.Read(modelFile_).value_or(std::string()));
+  } catch (const runtime::RuntimeError&) {
+    // Whoever needs the file itself will tell.
+  }
+}
+
+bool LastCopy::IsDamaged(std::string_view bytes) {
+  return !bytes.empty() && model::Outline(bytes).shape == model::XmlShape::IllFormed;
+}
+
 bool LastCopy::IsGood() {
   try {
     return !path_.empty() && HoldsModels(files_.Read(path_).value_or(std::string()));

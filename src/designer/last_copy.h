@@ -18,6 +18,9 @@ class LastCopy {
 
   // Bytes that hold no models, being empty or damaged, are not kept.
   void Keep(std::string_view bytes);
+  void KeepFile();  // as it stands on disk
+  // Not even XML, and not merely empty.
+  [[nodiscard]] static bool IsDamaged(std::string_view bytes);
   [[nodiscard]] bool IsGood();  // there is one that can be read
   // The copy takes the place of the damaged file, which is kept beside it as "<name>.danado".
   void Restore(std::string_view damaged);

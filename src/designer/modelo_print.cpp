@@ -136,6 +136,7 @@ bool ModeloPrint::CheckModificado() {
 
 // The save prompt comes before the number changes: what was modified belongs to the former one.
 void ModeloPrint::ModelChosen(int position) {
+  if (position < 0 || position > kLastModel - kFirstModel) return;
   if (!CheckModificado()) return view_.SelectModel(numero_ - kFirstModel);
   numero_ = static_cast<std::int16_t>(position + kFirstModel);
   Guarded([&] { Load(numero_); });
@@ -167,26 +168,23 @@ void ModeloPrint::Load(std::int16_t numero) {
   document_.ClearModified();
 }
 
-// Nothing for a number that the file does not have. A damaged file can be replaced by its last good copy.
+// Nothing for a number that the file does not have.
 std::optional<model::ModelTexts> ModeloPrint::FindModel(std::int16_t numero) {
+  MendFile();
   const std::string bytes = print_.files.Read(modelFile_.name).value_or(std::string());
-  try {
-    return FindIn(bytes, numero);
-  } catch (const RuntimeError& error) {
-    if (!error.Is(ErrorNumber::ObjectNotSet) || !lastCopy_.IsGood()) throw;
-    if (!environment_.dialogs.Confirm(
-            u"El archivo de modelos está dañado y no se puede leer. ¿Desea recuperar su última copia buena? "
-            u"El archivo dañado se conservará a su lado, con la terminación .danado."))
-      throw;
-  }
-  lastCopy_.Restore(bytes);
-  return FindIn(print_.files.Read(modelFile_.name).value_or(std::string()), numero);
-}
-
-std::optional<model::ModelTexts> ModeloPrint::FindIn(const std::string& bytes, std::int16_t numero) {
   auto found = model::ModelDocument::Parse(bytes).Find(numero);
   lastCopy_.Keep(bytes);
   return found;
+}
+
+// A damaged file can be replaced by its last good copy.
+void ModeloPrint::MendFile() {
+  const std::string bytes = print_.files.Read(modelFile_.name).value_or(std::string());
+  if (!LastCopy::IsDamaged(bytes) || !lastCopy_.IsGood()) return;
+  if (environment_.dialogs.Confirm(
+          u"El archivo de modelos está dañado y no se puede leer. ¿Desea recuperar su última copia buena? "
+          u"El archivo dañado se conservará a su lado, con la terminación .danado."))
+    lastCopy_.Restore(bytes);
 }
 
 bool ModeloPrint::SaveFileData() {
@@ -195,11 +193,12 @@ bool ModeloPrint::SaveFileData() {
 
 void ModeloPrint::Save() {
   if (unread_) throw *unread_;
-  lastCopy_.Keep(print_.files.Read(modelFile_.name).value_or(std::string()));
+  MendFile();
+  lastCopy_.KeepFile();
   model::SaveModel(print_.files, modelFile_.name, ModelOf(document_.Current(), numero_, modelFile_.folder),
                    print_.locale);
   document_.ClearModified();
-  lastCopy_.Keep(print_.files.Read(modelFile_.name).value_or(std::string()));
+  lastCopy_.KeepFile();
 }
 
 // ---- File menu

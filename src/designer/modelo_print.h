@@ -85,7 +85,7 @@ class ModeloPrint {
 
   void Load(std::int16_t numero);
   [[nodiscard]] std::optional<model::ModelTexts> FindModel(std::int16_t numero);
-  [[nodiscard]] std::optional<model::ModelTexts> FindIn(const std::string& bytes, std::int16_t numero);
+  void MendFile();
   void Save();
   void Nuevo();
   void GuardarComo();

@@ -29,11 +29,12 @@ void ModeloPrint::v_Eliminar_Click() {
   Guarded([&] {
     const int selected = document_.Selected();
     const bool logo = document_.LogoSelected();
-    if (selected > 0) {
-      document_.Edit([&](Layout& layout) { RemoveField(layout, selected); });
-      canvas_.HideHandles();
-    }
-    if (logo) document_.Edit([](Layout& layout) { layout.logo = nullptr; });
+    if (selected <= 0 && !logo) return;
+    document_.Edit([&](Layout& layout) {
+      RemoveField(layout, selected);
+      if (logo) layout.logo = nullptr;
+    });
+    canvas_.HideHandles();
   });
 }
 

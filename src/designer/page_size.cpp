@@ -14,8 +14,8 @@ constexpr float kTooLargeCm = 50;
 constexpr float kFallbackWidthCm = 20;
 constexpr float kFallbackHeightCm = 10;  // another one than the width's, on purpose
 
-// Half a unit of the seventh digit of a box below 50 cm, in twips.
-constexpr double kBoxPrecision = 0.003;
+// In twips, below 50 cm: half a unit of a text's seventh digit and half one of a single's last bit.
+constexpr double kBoxPrecision = 0.004;
 
 float Single(double value) {
   constexpr double kMost = std::numeric_limits<float>::max();

@@ -50,7 +50,8 @@ class Printers {
   [[nodiscard]] virtual std::unique_ptr<PrinterSurface> Open(std::u16string_view deviceName) = 0;
   [[nodiscard]] virtual std::unique_ptr<PrinterSurface> OpenDefault() = 0;
 
-  // The names of the faces on offer, in the printer's own order.
+  // The names of the faces on offer, after the one that the printer begins with, which stands first and once
+  // more among them.
   [[nodiscard]] virtual std::vector<std::u16string> FontNames(std::u16string_view deviceName) = 0;
   // The codes of the papers that the printer takes.
   [[nodiscard]] virtual std::vector<std::int16_t> PaperCodes(std::u16string_view deviceName) = 0;

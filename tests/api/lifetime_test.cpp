@@ -145,7 +145,7 @@ TEST(Lifetime, TenThousandObjectsLeaveNoGrowth) {
       form->AñadirTabla(name.Ref(), &table);
       form->AñadirCampoTabla(name.Ref(), name.Ref(), name.Ref(), &type);
       Call(form.Get(), L"AsignarCampo", {Value(L"OTRO"), Value(1L)});
-      Call(form.Get(), L"Show");
+      Call(form.Get(), L"AsignarCampo");  // an error
     }
     SetErrorInfo(0, nullptr);
   };

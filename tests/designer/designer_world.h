@@ -53,7 +53,9 @@ inline std::string ModelBytes(int numero, const std::vector<std::string_view>& c
   std::string text = "<Modelo Numero=\"" + std::to_string(numero) + "\" Width=\"11340\" Height=\"5670\" ";
   text.append(furtherAttributes).append(">");
   for (const std::string_view caption : captions)
-    text.append("<Campo><Descripcion>").append(caption).append("</Descripcion></Campo>");
+    text.append("<Campo><Descripcion>")
+        .append(caption)
+        .append("</Descripcion><Width>1000</Width><Height>300</Height></Campo>");
   return text + "</Modelo>";
 }
 

@@ -128,6 +128,33 @@ TEST_F(Gestures, AreOneStepOfUndo) {
   EXPECT_EQ(LeftOfField(), 5);
 }
 
+TEST_F(Gestures, ThatPlaceBoxesTellOfEachStepAndLeaveAllElseAsItIs) {
+  document.Adjust([](Layout& layout) {
+    layout.men.push_back(tests::FieldWith({5, 5, 5, 5}));
+    layout.logo = tests::LogoAt({0, 0, 100, 100});
+  });
+  const FieldPointer other = document.Current().men[2];
+  std::vector<std::pair<float, float>> heard;
+  document.Listen([&heard](const Layout& before, const Layout& after) {
+    heard.emplace_back(before.At(1)->box.left, after.At(1)->box.left);
+  });
+  document.BeginGesture();
+  for (const float left : {1.0F, 2.0F, 3.0F, 3.0F}) document.EditBox(1, {left, 2000, 600, 300});
+  document.Edit(Left(4));
+  document.EditBox(1, {5, 2000, 600, 300});
+  document.EditBox(0, {6, 0, 100, 100});
+  document.EditBox(9, {7, 7, 7, 7});
+  document.EndGesture();
+  EXPECT_THAT(heard,
+              testing::ElementsAre(std::pair{1000.0F, 1.0F}, std::pair{1.0F, 2.0F}, std::pair{2.0F, 3.0F},
+                                   std::pair{3.0F, 4.0F}, std::pair{4.0F, 5.0F}, std::pair{5.0F, 5.0F}));
+  EXPECT_EQ(document.Current().logo->box.left, 6);
+  EXPECT_EQ(document.Current().men[2], other);
+  document.Undo();
+  EXPECT_EQ(LeftOfField(), 1000);
+  EXPECT_EQ(document.Current().logo->box.left, 0);
+}
+
 TEST_F(Gestures, ThatEndWhereTheyBeganAreNoStepAndKeepWhatCouldBeRedone) {
   document.Edit(Left(1));
   document.Undo();

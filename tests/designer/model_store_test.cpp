@@ -2,6 +2,11 @@
 
 #include <gmock/gmock.h>
 
+#include <cstdint>
+#include <random>
+#include <string>
+#include <string_view>
+
 #include "model/document.h"
 #include "runtime/code_page.h"
 #include "tests/designer/layouts.h"
@@ -13,6 +18,14 @@ namespace {
 using runtime::Locale;
 using ::testing::ElementsAre;
 using ::testing::IsEmpty;
+
+// Gaps in the indexes close when a model is loaded.
+std::string WithoutKeys(std::string bytes) {
+  constexpr std::string_view kKey = " Key=\"";
+  for (auto at = bytes.find(kKey); at != std::string::npos; at = bytes.find(kKey, at))
+    bytes.erase(at, bytes.find('"', at + kKey.size()) + 1 - at);
+  return bytes;
+}
 
 struct ModelStore : testing::Test {
   Locale locale = Locale::Spanish();
@@ -233,6 +246,47 @@ TEST_F(ModelStore, WhatWasSavedIsReadBackTheSame) {
       R"(<Underline>Falso</Underline><FontName>Roman12</FontName></Campo></Modelo>)";
   std::string bytes = runtime::ToBytes(runtime::FromUtf8(model));
   EXPECT_EQ(Saved(Read(bytes)), "<Modelos>" + bytes + "</Modelos>");
+}
+
+// What a user's drags and dialogs may leave on the canvas, a hundred fields at a time.
+TEST_F(ModelStore, AnyLayoutIsReadBackAsItWasWrittenAndWrittenAgainTheSame) {
+  std::mt19937 random(20151231);
+  const auto number = [&](int from, int to) { return std::uniform_int_distribution<int>(from, to)(random); };
+  const auto twips = [&] {
+    return static_cast<float>(number(-40000, 120000)) / static_cast<float>(number(1, 4));
+  };
+  for (const Locale& written : {Locale::Spanish(), Locale::English()}) {
+    locale = written;
+    for (int run = 0; run < 20; ++run) {
+      Layout layout = NewLayout(locale);
+      SetPageSize(layout, static_cast<float>(number(1, 4999)) / 100,
+                  static_cast<float>(number(1, 49999)) / 1000);
+      layout.copias = kCopias[static_cast<std::size_t>(number(0, 9))];
+      layout.esEtiqueta = number(0, 1) == 1;
+      for (int i = 0; i < 100; ++i) {
+        Field field;
+        for (int letters = number(0, 12); letters > 0; --letters)
+          field.caption += static_cast<char16_t>(number(0x20, 0x2FF));
+        field.box = {twips(), twips(), twips(), twips()};
+        field.font = {u"Arial",
+                      static_cast<float>(number(1, 2400)) / 4,
+                      number(0, 1) == 1,
+                      number(0, 1) == 1,
+                      number(0, 1) == 1,
+                      false,
+                      number(INT32_MIN, INT32_MAX)};
+        field.alignment = number(0, 2);
+        layout.men.push_back(number(0, 9) == 0 ? nullptr : std::make_shared<const Field>(std::move(field)));
+      }
+      const std::string bytes = Saved(layout);
+      const auto document = model::ModelDocument::Parse(bytes);
+      const Layout read = ReadLayout(document.Find(1).value(), NewLayout(locale), locale, {}).layout;
+      ASSERT_EQ(WithoutKeys(Saved(read)), WithoutKeys(bytes));
+      std::erase(layout.men, nullptr);
+      for (std::size_t i = 0; i < layout.men.size(); ++i)
+        ASSERT_EQ(read.men[i + 1]->caption, layout.men[i]->caption);
+    }
+  }
 }
 
 }  // namespace

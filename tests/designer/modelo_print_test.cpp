@@ -182,7 +182,7 @@ TEST_F(DesignerWindow, AsksToSaveWhenAFieldWasOnlyPressed) {
   EXPECT_THAT(dialogs.askedConfirmations, IsEmpty());
   window->TheCanvas().Press({0, 0}, Button::Left);
   window->TheCanvas().Release({0, 0});
-  EXPECT_TRUE(Doc().Modified()) << "the fields of the model start at the page's corner";
+  EXPECT_TRUE(Doc().Modified());
   EXPECT_TRUE(window->Form_Unload());
   EXPECT_THAT(dialogs.askedConfirmations, ElementsAre(kSavePrompt));
 }
@@ -271,6 +271,45 @@ TEST_F(DamagedModelFile, IsKeptWhenTheCopyCannotTakeItsPlace) {
   Open();
   EXPECT_THAT(Told(), ElementsAre(runtime::DescriptionOf(61)));
   EXPECT_EQ(File(), "<Modelos><Modelo Num");
+}
+
+TEST_F(DesignerWindow, AFileDamagedMeanwhileIsMendedBeforeTheModelIsSavedIntoIt) {
+  Open();
+  window->CREAR_NEW_Campo(u"NUEVO");
+  SetFile("<Modelos><Modelo Num");
+  window->Grabar();
+  EXPECT_THAT(Told(), ElementsAre(runtime::DescriptionOf(91)));
+  EXPECT_EQ(File(), "<Modelos><Modelo Num");
+  EXPECT_TRUE(Doc().Modified());
+  dialogs.confirmations = {true};
+  window->Grabar();
+  EXPECT_FALSE(Doc().Modified());
+  EXPECT_EQ(files.contents.at(modelFile.name + u".danado"), "<Modelos><Modelo Num");
+  Open(3);
+  EXPECT_THAT(Captions(), ElementsAre(u"TRES"));
+  Open(1);
+  EXPECT_THAT(Captions(), ElementsAre(u"UNO", u"DOS", u"NUEVO"));
+}
+
+TEST_F(DesignerWindow, AFileThatBeginsWithADeclarationIsNoDamagedOneAndIsNotSavedOver) {
+  Open();  // leaves a copy
+  const std::string declared = "<?xml version=\"1.0\"?>" + File();
+  SetFile(declared);
+  Open();
+  EXPECT_THAT(Captions(), IsEmpty());
+  window->CREAR_NEW_Campo(u"NUEVO");
+  window->Grabar();
+  EXPECT_THAT(dialogs.askedConfirmations, IsEmpty());
+  EXPECT_THAT(Told(), ElementsAre(runtime::DescriptionOf(91)));
+  EXPECT_EQ(File(), declared);
+}
+
+TEST_F(DesignerWindow, AModelNumberThatTheListDoesNotHaveIsNotChosen) {
+  Open();
+  window->ModelChosen(-1);
+  window->ModelChosen(9);
+  EXPECT_EQ(window->Numero(), 1);
+  EXPECT_THAT(Captions(), SizeIs(2));
 }
 
 TEST_F(DesignerWindow, AModelThatCouldNotBeReadIsNotSavedOverOnceTheFileIsThere) {

@@ -37,6 +37,12 @@ class Session : public tests::OnTheCanvas {
 
   explicit Session(unsigned seed) : random_(seed) {
     PutLogo({5000, 5000, 1000, 500});
+    shown_ = document.Current();
+    document.Listen([this](const Layout& before, const Layout& after) {
+      EXPECT_EQ(before == shown_, true) << "the window draws anew what differs between the two";
+      EXPECT_EQ(after == document.Current(), true);
+      shown_ = after;
+    });
     states_ = {document.Current()};
   }
 
@@ -49,6 +55,7 @@ class Session : public tests::OnTheCanvas {
     if (Chance(4)) return wasModified ? UndoOrRedo() : document.MarkModified();
     (this->*kActions[Any(kActions.size())])();
     EXPECT_TRUE(document.Modified() || !wasModified);
+    EXPECT_EQ(shown_ == document.Current(), true);
     if (SameContent(document.Current(), states_[at_])) return;
     EXPECT_TRUE(document.Modified());
     states_.resize(at_ + 1);
@@ -163,6 +170,7 @@ class Session : public tests::OnTheCanvas {
   fakes::ScriptedDialogs dialogs_;
   PropertyStore store_;
   FieldClipboard clipboard_;
+  Layout shown_;
   std::vector<Layout> states_;
   std::size_t at_ = 0;
 };

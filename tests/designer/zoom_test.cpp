@@ -23,6 +23,13 @@ TEST_F(ScrollingThePage, GoesAsFarAsThePageIsLarge) {
   EXPECT_EQ(view.placeChanges, 3);
 }
 
+TEST_F(ScrollingThePage, StaysWithinAPageThatBecomesSmaller) {
+  canvas.ScrollTo(11000, 16000);
+  document.Adjust([](Layout& layout) { layout.canvasWidth = layout.canvasHeight = 5670; });
+  EXPECT_EQ(canvas.Horizontal(), 5670);
+  EXPECT_EQ(canvas.Vertical(), 5670);
+}
+
 TEST_F(ScrollingThePage, LimitsAre16BitValues) {
   document.Adjust([](Layout& layout) {
     layout.canvasWidth = 40000;

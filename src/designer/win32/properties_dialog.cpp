@@ -35,7 +35,7 @@ constexpr std::u16string_view kNote =
     u"que terminan con un numero). Por ejemplo: Roman12";
 
 // In dialog units.
-constexpr int kBoxWidth = 55;
+constexpr int kBoxWidth = 66;
 constexpr int kListsHeight = 86;
 constexpr int kFontsWidth = 100;
 constexpr int kStylesWidth = 70;

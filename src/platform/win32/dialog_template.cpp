@@ -85,7 +85,7 @@ void DialogTemplate::PutHeader(const DialogLayout& layout) {
   const DialogFont font = MessageFont();
   PutDoubleWord(WS_POPUP | WS_CAPTION | WS_SYSMENU | DS_SETFONT | DS_SETFOREGROUND |
                 (layout.Resizable() ? WS_THICKFRAME | WS_CLIPCHILDREN : DS_MODALFRAME));
-  PutDoubleWord(WS_EX_CONTROLPARENT);
+  PutDoubleWord(WS_EX_CONTROLPARENT | WS_EX_DLGMODALFRAME);  // no icon, with any border
   PutWord(static_cast<int>(std::count_if(layout.Controls().begin(), layout.Controls().end(), HasWindow)));
   for (int i = 0; i < 4; ++i) PutWord(0);  // its place
   PutWord(0);                              // no menu

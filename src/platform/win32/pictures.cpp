@@ -5,6 +5,7 @@
 #include <cmath>
 #include <cstring>
 
+#include "platform/picture_size.h"
 #include "platform/win32/errors.h"
 #include "platform/win32/files.h"
 
@@ -118,6 +119,9 @@ std::unique_ptr<Picture> Win32Pictures::Load(std::u16string_view path) {
 
 std::unique_ptr<Picture> Win32Pictures::Decode(std::string_view bytes) {
   if (IsCutBitmap(bytes)) Throw(ErrorNumber::InvalidPicture);
+  // The loader would take whatever memory there is before it gives up.
+  if (const auto size = SizeInHeader(bytes); size && !IsWithinMeans(*size))
+    Throw(ErrorNumber::InvalidPicture);
   const Reference<IStream> stream = StreamOf(bytes);
   Reference<IPicture> picture;
   if (FAILED(OleLoadPicture(stream.Get(), static_cast<LONG>(bytes.size()), FALSE, IID_IPicture,

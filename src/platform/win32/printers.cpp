@@ -1,5 +1,6 @@
 #include "platform/win32/printers.h"
 
+#include <algorithm>
 #include <cmath>
 #include <cstddef>
 
@@ -86,6 +87,13 @@ std::vector<std::u16string> Win32Printers::FontNames(std::u16string_view deviceN
   const OwnedDc dc = InformationOf(std::u16string(deviceName), nullptr);
   std::vector<std::u16string> names;
   EnumFontFamiliesW(dc.Get(), nullptr, CollectFamily, reinterpret_cast<LPARAM>(&names));
+  std::sort(names.begin(), names.end(), [](const std::u16string& a, const std::u16string& b) {
+    return CompareStringOrdinal(Wide(a), -1, Wide(b), -1, TRUE) == CSTR_LESS_THAN;
+  });
+  names.erase(std::unique(names.begin(), names.end()), names.end());  // some are told once for every style
+  wchar_t first[LF_FACESIZE] = L"";
+  GetTextFaceW(dc.Get(), LF_FACESIZE, first);
+  names.insert(names.begin(), Text(first));
   return names;
 }
 

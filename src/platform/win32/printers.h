@@ -10,7 +10,7 @@ class Win32Printers : public Printers {
   [[nodiscard]] std::vector<std::u16string> DeviceNames() override;
   [[nodiscard]] std::unique_ptr<PrinterSurface> Open(std::u16string_view deviceName) override;
   [[nodiscard]] std::unique_ptr<PrinterSurface> OpenDefault() override;
-  // Without the faces turned for vertical writing.
+  // In alphabetical order, without the faces turned for vertical writing.
   [[nodiscard]] std::vector<std::u16string> FontNames(std::u16string_view deviceName) override;
   [[nodiscard]] std::vector<std::int16_t> PaperCodes(std::u16string_view deviceName) override;
   [[nodiscard]] std::optional<PageSize> PageOf(std::u16string_view deviceName, const Paper& paper) override;

@@ -5,8 +5,8 @@
 #include <functional>
 
 #include "platform/win32/prompts.h"
+#include "tests/platform/win32/dialog_user.h"
 #include "tests/platform/win32/gdi_objects.h"
-#include "tests/platform/win32/window_driver.h"
 
 namespace qm::platform::win32 {
 namespace {
@@ -21,31 +21,6 @@ constexpr char16_t kTitle[] = u"Opciones de Etiquetas";
 const std::vector<OptionEntry> kEntries = {
     {u"Etiquetas a lo ancho", u"02"}, {u"Etiquetas a lo alto", u"08"},   {u"Margen Superior", u"0"},
     {u"Margen Izquierda", u"0"},      {u"Ancho Pagina Completa", u"21"}, {u"Alto Pagina Completa", u"29,50"}};
-
-std::vector<HWND> ChildrenOf(HWND dialog, const wchar_t* className) {
-  std::vector<HWND> children;
-  for (HWND child = nullptr; (child = FindWindowExW(dialog, child, className, nullptr));)
-    children.push_back(child);
-  return children;
-}
-
-void Type(HWND entry, const std::u16string& text) {
-  SendMessageW(entry, WM_SETTEXT, 0, reinterpret_cast<LPARAM>(Wide(text)));
-}
-
-HWND FocusOf(HWND dialog) {
-  GUITHREADINFO info{};
-  info.cbSize = sizeof info;
-  GetGUIThreadInfo(GetWindowThreadProcessId(dialog, nullptr), &info);
-  return info.hwndFocus;
-}
-
-// Presses the key where the focus is and waits until the focus has left.
-void PressAndMoveOn(HWND dialog, WPARAM key) {
-  const HWND before = FocusOf(dialog);
-  WindowDriver::Press(before, key);
-  for (int attempt = 0; attempt < 400 && FocusOf(dialog) == before; ++attempt) Sleep(5);
-}
 
 Answers AskedWhile(const std::function<void(HWND)>& action,
                    const std::vector<OptionEntry>& entries = kEntries) {

@@ -73,6 +73,18 @@ TEST_F(PictureFiles, AGifIsLoaded) {
   ExpectColor(ColorAt(*picture, 2, 1), kRed);
 }
 
+TEST_F(PictureFiles, AHugeOrEmptyPictureIsError481) {
+  std::string huge = BytesOf(kRedJpeg);
+  const std::size_t frame = huge.find("\xFF\xC0");
+  huge.replace(frame + 5, 4, "\x4E\x20\x4E\x20", 4);  // 20,000 pixels a side
+  EXPECT_RUNTIME_ERROR(481, (void)Loaded(huge));
+  std::string bmp = CornerBmp();
+  bmp.replace(18, 8, std::string("\x20\x4E\0\0\x20\x4E\0\0", 8));
+  EXPECT_RUNTIME_ERROR(481, (void)Loaded(bmp));
+  bmp.replace(18, 4, std::string(4, '\0'));
+  EXPECT_RUNTIME_ERROR(481, (void)Loaded(bmp));
+}
+
 TEST_F(PictureFiles, ABrokenFileIsError481) {
   EXPECT_RUNTIME_ERROR(481, (void)Loaded("no picture at all"));
   EXPECT_RUNTIME_ERROR(481, (void)Loaded(""));

@@ -70,8 +70,14 @@ TEST(InstalledPrinters, AMissingOneIsError482) {
   EXPECT_RUNTIME_ERROR(482, (void)Win32Printers().Open(u""));
 }
 
-TEST(InstalledPrinters, TellTheirFonts) {
-  EXPECT_THAT(Win32Printers().FontNames(kA4), IsSupersetOf({u"Liberation Sans", u"Liberation Mono"}));
+TEST(InstalledPrinters, TellTheirFontsEachOnceAfterTheOneTheyBeginWith) {
+  std::vector<std::u16string> names = Win32Printers().FontNames(kA4);
+  ASSERT_GT(names.size(), 3U);
+  EXPECT_FALSE(names[0].empty());
+  names.erase(names.begin());
+  EXPECT_THAT(names, IsSupersetOf({u"Liberation Sans", u"Liberation Mono", u"Liberation Serif"}));
+  EXPECT_TRUE(std::is_sorted(names.begin(), names.end()));
+  EXPECT_EQ(std::adjacent_find(names.begin(), names.end()), names.end());
   EXPECT_RUNTIME_ERROR(482, (void)Win32Printers().FontNames(u"Impresora que no existe"));
 }
 

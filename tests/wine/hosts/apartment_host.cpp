@@ -36,9 +36,9 @@ void CallByName(hosts::Expectations& expect) {
       "get", S_OK,
       form->Invoke(0x40030008, IID_NULL, 0, DISPATCH_PROPERTYGET, &none, &value, &exception, nullptr));
   expect.True("Error", value.vt == VT_I4 && value.lVal == 0);
-  expect.Result("Show", DISP_E_EXCEPTION,
-                form->Invoke(0x60030015, IID_NULL, 0, DISPATCH_METHOD, &none, nullptr, &exception, nullptr));
-  expect.Result("error", static_cast<HRESULT>(0x800A01BD), exception.scode);
+  expect.Result("ImprimirModelo", DISP_E_EXCEPTION,
+                form->Invoke(0x60030009, IID_NULL, 0, DISPATCH_METHOD, &none, nullptr, &exception, nullptr));
+  expect.Result("error", static_cast<HRESULT>(0x800AC3B5), exception.scode);
 }
 
 void CallThroughTheVtable(hosts::Expectations& expect) {
@@ -61,7 +61,7 @@ void CallThroughTheVtable(hosts::Expectations& expect) {
     expect.Result("Valor", S_OK, record->get_Valor(&read));
     expect.True("Valor", Is(read, L"5"));
   }
-  expect.Result("Show", static_cast<HRESULT>(0x800A01BD), form->Show());
+  expect.Result("ImprimirModelo", static_cast<HRESULT>(0x800AC3B5), form->ImprimirModelo());
   SysFreeString(name);
 }
 

@@ -79,7 +79,6 @@ expect("too large", 6, numberOf(function () { form["A\u00F1adirCampoTabla"]("T",
 expect("too few", 449, numberOf(function () { form.AsignarCampo("X"); }));
 expect("too many", 450, numberOf(function () { form.ImprimirModelo(1); }));
 expect("unknown", true, numberOf(function () { form.NoExiste(); }) > 0);
-expect("not available", "445 El objeto no admite esta acci\u00F3n", errorOf(function () { form.Show(); }));
 
 // The other classes.
 var cell = new ActiveXObject("Qm_Modelo_Impresion3.DatosTabla");

@@ -1,0 +1,154 @@
+// The designer as hosts open it.
+
+#include <gmock/gmock.h>
+
+#include <atomic>
+#include <functional>
+#include <thread>
+
+#include "tests/api/component.h"
+#include "tests/data/definition_bytes.h"
+#include "tests/platform/win32/scratch_folder.h"
+
+namespace qm::tests {
+namespace {
+
+using ::testing::ElementsAre;
+
+HWND Designer() { return FindWindowW(L"ModeloPrint", L"Modelos de Impresión"); }
+
+// Waits for the designer, looks at it and closes it.
+class Visitor {
+ public:
+  explicit Visitor(std::function<void(HWND)> look = [](HWND) {})
+      : thread_([look = std::move(look)] {
+          for (int attempt = 0; attempt < 2000; ++attempt, Sleep(5)) {
+            const HWND designer = Designer();
+            if (!designer || !IsWindowVisible(designer)) continue;
+            look(designer);
+            PostMessageW(designer, WM_CLOSE, 0, 0);
+            return;
+          }
+        }) {}
+  Visitor(const Visitor&) = delete;
+  Visitor& operator=(const Visitor&) = delete;
+  ~Visitor() { thread_.join(); }
+
+ private:
+  std::thread thread_;
+};
+
+std::vector<std::wstring> MenusOf(HWND designer) {
+  std::vector<std::wstring> captions;
+  const HMENU bar = GetMenu(designer);
+  for (int i = 0; i < GetMenuItemCount(bar); ++i) {
+    wchar_t caption[100] = L"";
+    GetMenuStringW(bar, static_cast<UINT>(i), caption, 100, MF_BYPOSITION);
+    captions.emplace_back(caption);
+  }
+  return captions;
+}
+
+class ShowingTheDesigner : public testing::Test {
+ protected:
+  ShowingTheDesigner() {
+    platform::win32::Win32Files().Replace(folder_.File(u"CLIEN.Qma"),
+                                          DefinitionBytes("2 ", "Clientes", {"NOMBRE", "NIF"}));
+    EXPECT_EQ(form_->put_XMLFileName(Bstr(Path(u"modelos.xml")).Get()), S_OK);
+  }
+  std::wstring Path(std::u16string_view name) const {
+    const std::u16string path = folder_.File(name);
+    return {path.begin(), path.end()};
+  }
+  void AddTable(std::u16string_view name) {
+    Bstr table(Path(name));
+    ComPtr<_Tablas> record;
+    EXPECT_EQ(form_->AñadirTabla(table.Ref(), &record), S_OK);
+  }
+
+  platform::win32::ScratchFolder folder_;
+  Component component_;
+  ComPtr<_PrintForm> form_ = component_.NewPrintForm();
+};
+
+TEST_F(ShowingTheDesigner, ReturnsWhenTheUserClosesIt) {
+  HWND shown = nullptr;
+  const Visitor visitor([&](HWND designer) { shown = designer; });
+  EXPECT_EQ(form_->Show(), S_OK);
+  EXPECT_FALSE(IsWindow(shown));
+  EXPECT_EQ(Designer(), nullptr);
+}
+
+TEST_F(ShowingTheDesigner, LeavesTheComponentReadyToBeUnloaded) {
+  {
+    const Visitor visitor;
+    EXPECT_EQ(form_->Show(), S_OK);
+  }
+  form_.Reset();
+  EXPECT_EQ(component_.CanUnloadNow(), S_OK);
+}
+
+TEST_F(ShowingTheDesigner, OffersWhatTheHostPouredInAndASecondShowTheNextMenu) {
+  AddTable(u"CLIEN");
+  std::vector<std::wstring> first;
+  std::vector<std::wstring> second;
+  std::wstring entry;
+  {
+    const Visitor visitor([&](HWND designer) {
+      first = MenusOf(designer);
+      wchar_t text[100] = L"";
+      GetMenuStringW(GetSubMenu(GetMenu(designer), 3), 1, text, 100, MF_BYPOSITION);
+      entry = text;
+    });
+    EXPECT_EQ(form_->Show(), S_OK);
+  }
+  Bstr name(L"Total");
+  Value value(5L);
+  ComPtr<_Campos> record;
+  EXPECT_EQ(form_->AsignarCampo(name.Ref(), &value, &record), S_OK);
+  {
+    const Visitor visitor([&](HWND designer) { second = MenusOf(designer); });
+    EXPECT_EQ(form_->Show(), S_OK);
+  }
+  const std::wstring table = L"Clientes               ";  // untrimmed, as the definition has it
+  EXPECT_THAT(first, ElementsAre(L"&Archivo", L"&Editar", L"Insertar", table));
+  EXPECT_EQ(entry, L"NIF (CLIEN)");
+  EXPECT_THAT(second, ElementsAre(L"&Archivo", L"&Editar", L"Insertar", L"Campos disponibles", table));
+}
+
+TEST_F(ShowingTheDesigner, OfAnEleventhTableIsError340BeforeAnyWindow) {
+  for (int i = 0; i < 11; ++i) AddTable(u"CLIEN");
+  EXPECT_EQ(form_->Show(), RuntimeResult(340));
+  EXPECT_EQ(TakeError().description, L"El elemento de la matriz de controles no existe");
+}
+
+TEST_F(ShowingTheDesigner, WithANumberThatIsNoModelsShowsTheFirst) {
+  EXPECT_EQ(form_->put_NumeroModelo(Value(L"otro")), S_OK);
+  LRESULT selected = -1;
+  const Visitor visitor([&](HWND designer) {
+    for (HWND list = nullptr; (list = FindWindowExW(designer, list, L"ComboBox", nullptr)) != nullptr;)
+      if (SendMessageW(list, CB_GETCOUNT, 0, 0) == 9) selected = SendMessageW(list, CB_GETCURSEL, 0, 0);
+  });
+  EXPECT_EQ(form_->Show(), S_OK);
+  EXPECT_EQ(selected, 0);
+}
+
+_PrintForm* shownAgain = nullptr;
+HRESULT resultOfShowingAgain = S_OK;
+
+TEST_F(ShowingTheDesigner, WhileItIsOpenIsError400) {
+  shownAgain = form_.Get();
+  const UINT_PTR timer = SetTimer(nullptr, 0, 10, [](HWND, UINT, UINT_PTR id, DWORD) {
+    KillTimer(nullptr, id);
+    resultOfShowingAgain = shownAgain->Show();
+  });
+  const Visitor visitor([](HWND) {
+    for (int attempt = 0; attempt < 2000 && resultOfShowingAgain == S_OK; ++attempt) Sleep(5);
+  });
+  EXPECT_EQ(form_->Show(), S_OK);
+  KillTimer(nullptr, timer);
+  EXPECT_EQ(resultOfShowingAgain, RuntimeResult(400));
+}
+
+}  // namespace
+}  // namespace qm::tests
