@@ -221,6 +221,14 @@ class Clerk:
     def type(self, text):
         xdotool("type", "--delay", 20, text)
 
+    def choose(self, number, position, count):
+        """An entry of a drop-down list of that many."""
+        self.click(self.control(number))
+        entries = self.window("ComboLBox")
+        height = (entries["bottom"] - entries["top"]) / count
+        self.click_at(entries["left"] + 10, round(entries["top"] + height * (position + 0.5)))
+        self.gone(entries)
+
     def open_menu(self, position, items):
         """A menu of the bar by the keyboard, as the pop-up that has come, of that many equally high items."""
         self.key("F10", *["Right"] * position, "Down")

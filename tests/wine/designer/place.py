@@ -6,10 +6,7 @@ from clerk import ALTO, ANCHO, GRABAR, LAB_POS, MODELOS, expect_models, read_mod
 def act(clerk):
     before = read_models(clerk.models)
     clerk.wait_text(ANCHO, "10,49912")
-    clerk.click(clerk.control(MODELOS))
-    entries = clerk.window("ComboLBox")
-    clerk.click_at(entries["left"] + 10, entries["top"] + 8)  # "1"
-    clerk.gone(entries)
+    clerk.choose(MODELOS, 0, 9)
     clerk.wait_text(ANCHO, "20,99824")
     clerk.wait_text(ALTO, "29,69665")
 

@@ -6,7 +6,7 @@ import os
 import re
 import subprocess
 
-from clerk import SCRATCH, SOURCE, Failed, expect, run, windows_path, windows_program
+from clerk import IMPRESORAS, LIMIT, SCRATCH, SOURCE, Failed, expect, run, windows_path, windows_program
 
 TWIPS_PER_POINT = 20
 TOLERANCE_TWIPS = 0.5 * 56.7  # half a millimetre
@@ -33,7 +33,7 @@ def printed_words(models, jobs_before):
     """Where the words of the next job stand: left, top, right in twips."""
     host = subprocess.run(
         windows_program("cscript", "//nologo", windows_path(os.path.join(SOURCE, "tests/wine/documents/imprimir.js")),
-                        windows_path(models), "1"), capture_output=True, check=False)
+                        windows_path(models), "1"), capture_output=True, check=False, timeout=LIMIT)
     expect("what the host says", ["impreso", "fin"], host.stdout.decode("cp850").split())
     jobs = sorted(glob.glob(os.path.join(os.environ["QM_PRINT_JOBS"], "*.ps")))
     expect("printed jobs", jobs_before + 1, len(jobs))
@@ -52,6 +52,9 @@ def expect_near(what, expected, actual):
 
 def act(clerk):
     before = printed_words(clerk.models, 0)
+    # A model that names no printer asks for one on printing.
+    clerk.choose(IMPRESORAS, 0, 3)
+    clerk.wait_text(IMPRESORAS, "Impresora A4")
     for text, left, top, width, _, drag in FIELDS:
         if drag:
             clerk.drag((left + width / 2, top + 200), *drag)
