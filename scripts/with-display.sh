@@ -13,13 +13,18 @@ flock 8
 number_file=$(mktemp)
 Xvfb -displayfd 5 -screen 0 1280x1024x24 -nolisten tcp 5>"$number_file" 8>&- >/dev/null 2>&1 </dev/null &
 server=$!
-finish() {
+# A prefix that still runs from before would go on without this display.
+stop_prefix() {
   WINEPREFIX=${QM_WINEPREFIX:-$root/build/wine-prefix-x11} /usr/lib/wine/wineserver -k >/dev/null 2>&1 || true
+}
+finish() {
+  stop_prefix
   kill "$server" 2>/dev/null || true
   wait "$server" 2>/dev/null || true
   rm -f "$number_file"
 }
 trap finish EXIT
+stop_prefix
 for _ in $(seq 100); do
   [ -s "$number_file" ] && break
   kill -0 "$server" 2>/dev/null || { echo "with-display: Xvfb did not start" >&2; exit 1; }

@@ -107,8 +107,13 @@ class Clerk:
         self.host = subprocess.Popen(
             windows_program("cscript", "//nologo", windows_path(os.path.join(HERE, "mostrar.js")),
                             windows_path(self.models), str(number)), stdout=subprocess.PIPE)
-        self.form = self.window("ModeloPrint")
+        self.form = until("the designer", self.opened)[0]
         until("the page to have the focus", lambda: self.look()["focus"] == self.page()["handle"])
+
+    def opened(self):
+        if self.host.poll() is not None:
+            raise Failed(f"the host ended: {self.host.stdout.read().decode('cp850')}")
+        return self.windows("ModeloPrint")
 
     def leave(self):
         """Whatever happened, nothing stays behind."""

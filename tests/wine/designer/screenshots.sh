@@ -1,0 +1,13 @@
+#!/bin/bash
+# screenshots.sh [FOLDER [NAME ...]]: takes the guide's pictures of the designer anew (default: into docs/img), with
+# the component of build/win64 on a display of its own. NAME is a picture's name, "disenador" for the main window.
+set -euo pipefail
+root=$(cd "$(dirname "$0")/../../.." && pwd)
+here=$root/tests/wine/designer
+folder=${1:-$root/docs/img}
+mkdir -p "$folder"
+folder=$(cd "$folder" && pwd)
+export QM_SOURCE_DIR=$root QM_BINARY_DIR=$root/build/win64 QM_SCRATCH=$root/build/win64/scratch/screenshots
+export QM_WINEPREFIX=$QM_BINARY_DIR/prefixes/designer
+"$here/register.sh"
+PYTHONDONTWRITEBYTECODE=1 "$root/scripts/with-display.sh" python3 "$here/screenshots.py" "$folder" "${@:2}"
