@@ -26,11 +26,21 @@ show() {
   rm -r "$QM_PRINT_JOBS"
 }
 
+# show_attachments FOLDER: the invoice as files to send, and what is in the archive.
+show_attachments() {
+  pdftoppm -r 100 -png -singlefile "$demo/$1/factura.pdf" "$demo/$1/factura"
+  echo "build/demo/$1/factura.pdf, .png: the invoice as a PDF to send, with its texts to search and copy"
+  echo "build/demo/$1/factura.zip: the invoice's bitmap, packed: $(python3 -m zipfile -l "$demo/$1/factura.zip" |
+    awk 'NR > 1 { print $1 ", " $NF " bytes" }')"
+}
+
 for library in QmFile2 QmModImp3; do
   scripts/wine-run.sh regsvr32 /s "$(windows_path build/win64/$library.dll)"
 done
 scripts/wine-run.sh cscript //nologo "$(windows_path examples/factura.js)"
 show factura "an invoice, filled and printed by examples/factura.js on \"Impresora A4\""
+scripts/wine-run.sh cscript //nologo "$(windows_path examples/factura.js)" "$(windows_path build/demo/adjuntos)\\"
+show_attachments adjuntos
 scripts/wine-run.sh cscript //nologo "$(windows_path examples/recibo.vbs)"
 show recibo "a receipt, filled and printed by examples/recibo.vbs"
 # The label host asks for the sheet's grid; the demo takes what the dialog offers.

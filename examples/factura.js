@@ -1,5 +1,6 @@
-// Imprime una factura de ejemplo en la impresora predeterminada, original y copia.
-// Uso: cscript //nologo factura.js
+// Imprime una factura de ejemplo en la impresora predeterminada, original y copia. Con una carpeta, que acaba
+// en barra invertida, deja en ella la misma factura como PDF y como ZIP, para enviarla.
+// Uso: cscript //nologo factura.js [CARPETA\]
 var carpeta = WScript.ScriptFullName.replace(/[^\\]*$/, "");
 
 var impresion = new ActiveXObject("Qm_Modelo_Impresion3.PrintForm");
@@ -44,8 +45,14 @@ celda("FACTU", "BASE", base.toFixed(2), 3);
 celda("FACTU", "IVA", iva.toFixed(2), 3);
 celda("FACTU", "TOTAL", (base + iva).toFixed(2), 3);
 
+var envio = WScript.Arguments.length > 0;
 try {
-    impresion.ImprimirModelo();
+    if (envio) {
+        impresion.CrearZip(WScript.Arguments(0), "factura.pdf");
+        impresion.CrearZip(WScript.Arguments(0), "factura.zip");
+    } else {
+        impresion.ImprimirModelo();
+    }
 } catch (fallo) {
     WScript.Echo("Error " + (fallo.number & 0xFFFF) + ": " + fallo.description);
     WScript.Quit(1);
@@ -54,5 +61,5 @@ if (impresion.ImpresionAnulada) {
     WScript.Echo("Impresión anulada");
     WScript.Quit(2);
 }
-WScript.Echo("Factura impresa");
+WScript.Echo(envio ? "Factura lista para enviar" : "Factura impresa");
 WScript.Quit(0);

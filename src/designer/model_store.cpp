@@ -1,7 +1,6 @@
 #include "designer/model_store.h"
 
 #include <algorithm>
-#include <cmath>
 #include <limits>
 #include <memory>
 #include <optional>
@@ -10,6 +9,7 @@
 
 #include "print/field_reader.h"
 #include "print/text/text_helpers.h"
+#include "runtime/error.h"
 #include "runtime/numbers.h"
 #include "runtime/strings.h"
 
@@ -31,9 +31,13 @@ float Single(double value) {
 // Files are written without grouping, so that a lone comma is a decimal sign wherever they are opened.
 float Twips(Text text, const Locale& locale) { return Single(text::ParseCentimetres(text, locale)); }
 
+// Nothing for a number that does not fit 16 bits.
 std::optional<int> RoundedValue(Text text) {
-  const double value = std::nearbyint(runtime::Val(text));
-  return std::abs(value) < 32768 ? std::optional(static_cast<int>(value)) : std::nullopt;
+  try {
+    return runtime::CInt(runtime::Val(text));
+  } catch (const runtime::RuntimeError&) {
+    return std::nullopt;
+  }
 }
 
 // ---- The attributes of a model

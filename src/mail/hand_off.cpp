@@ -86,11 +86,18 @@ bool CanTravel(const std::u16string& path, platform::Files& files) {
   return CanNameFile(path) && files.CanRead(path);
 }
 
+// The name under which Windows finds a file: without a stream behind it, and without final dots and blanks.
+std::u16string_view NameAsFound(std::u16string_view path) {
+  std::u16string_view name = path.substr(path.find_last_of(u"\\/") + 1);  // all of it without a separator
+  name = name.substr(0, name.find(u':'));
+  return name.substr(0, name.find_last_not_of(u" .") + 1);
+}
+
 // An entry of these names would take the place of the request or of the body.
-void CheckNames(const std::vector<std::u16string>& paths) {
+void CheckNames(const std::vector<std::u16string>& paths, platform::Folders& folders) {
   for (const std::u16string& path : paths) {
-    const std::size_t bare = path.find_last_of(u"\\/") + 1;  // 0 without a separator
-    const std::u16string_view name = std::u16string_view(path).substr(bare);
+    const std::u16string full = folders.FullPath(path);
+    const std::u16string_view name = NameAsFound(full);
     if (runtime::EqualFolded(name, kRequestName) || runtime::EqualFolded(name, kBodyName)) ThrowBadFileName();
   }
 }
@@ -165,8 +172,8 @@ void AddReferences(HandOff& message, const Environment& environment) {
 
 void EntregarMensaje(const HandOff& message, std::u16string& nombreDestinatario,
                      const Environment& environment) {
-  CheckNames(message.references);
-  CheckNames(message.attachments);
+  CheckNames(message.references, environment.folders);
+  CheckNames(message.attachments, environment.folders);
   CheckRutaEmail(message.rutaEmail);
   if (nombreDestinatario.find_first_of(u"@;") != std::u16string::npos) nombreDestinatario = u"Destinatario";
   const std::u16string outbox =

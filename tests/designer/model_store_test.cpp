@@ -100,6 +100,7 @@ TEST_F(ModelStore, CopiesAreChosenByTheirValueAndOthersKeptAsWritten) {
   EXPECT_EQ(copias("0"), u"0");
   EXPECT_EQ(copias(""), u"");
   EXPECT_EQ(copias("99999999999"), u"99999999999");
+  EXPECT_EQ(copias("1E999"), u"1E999");
 }
 
 TEST_F(ModelStore, ALabelSheetIsOneWhoseFlagIsOne) {
@@ -141,7 +142,8 @@ TEST_F(ModelStore, ASizeAboveSixHundredIsInHundredthsOfAPoint) {
 
 TEST_F(ModelStore, WhatIsNoNumberLeavesColourAndSizeAsTheyWere) {
   const Field field = ReadOnlyField(
-      "<ForeColor>rojo</ForeColor><FontSize>grande</FontSize><Alignment>7</Alignment><Top>arriba</Top>");
+      "<ForeColor>rojo</ForeColor><FontSize>grande</FontSize><Alignment>7</Alignment><Top>arriba</Top>"
+      "<Alignment>1E999</Alignment>");
   EXPECT_EQ(field.font.foreColor, 0);
   EXPECT_EQ(field.font.size, 10);
   EXPECT_EQ(field.alignment, 0);

@@ -1,18 +1,20 @@
 #pragma once
 // A world of fakes in which a page of two texts, "Señor" and "Total", becomes a file to send.
 
-#include <set>
 #include <string>
 
 #include "mail/attachments.h"
 #include "platform/zip_archiver.h"
+#include "recordfile/file_record_store.h"
 #include "tests/error_of.h"
+#include "tests/fakes/fake_folders.h"
 #include "tests/fakes/fake_picture_page.h"
 #include "tests/fakes/fake_pictures.h"
 #include "tests/fakes/fake_settings.h"
 #include "tests/fakes/fixed_clock.h"
 #include "tests/fakes/memory_files.h"
 #include "tests/fakes/recorded_archiver.h"
+#include "tests/fakes/recorded_processes.h"
 #include "tests/fakes/recording_printer.h"
 #include "tests/fakes/scripted_prompts.h"
 #include "tests/fakes/scripted_spooler.h"
@@ -28,58 +30,6 @@ class NearlyFullDisk : public fakes::MemoryFiles {
     if (path == fullFor) throw runtime::RuntimeError(runtime::ErrorNumber::DiskFull);
     MemoryFiles::Replace(path, bytes);
   }
-};
-
-class OutputFolders : public platform::Folders {
- public:
-  std::u16string current = u"C:\\";
-  std::set<std::u16string, std::less<>> found;
-  std::vector<std::u16string> made;
-  bool makes = true;
-  std::optional<runtime::ErrorNumber> failCurrentWith;
-
-  [[nodiscard]] std::u16string CarpetaEspecial(int) override { return {}; }
-  [[nodiscard]] std::u16string RutaTrabajo(std::u16string_view) override { return {}; }
-  [[nodiscard]] std::u16string ComponentFolder() override { return u"C:\\Componente"; }
-  [[nodiscard]] std::u16string LocalData() override { return {}; }
-  [[nodiscard]] std::u16string UserName() override { return {}; }
-  [[nodiscard]] std::u16string CurrentFolder() override { return current; }
-  void SetCurrentFolder(std::u16string_view folder) override {
-    if (failCurrentWith) throw runtime::RuntimeError(*failCurrentWith);
-    current = folder;
-  }
-  [[nodiscard]] std::u16string FullPath(std::u16string_view path) override {
-    return current + std::u16string(path);
-  }
-  [[nodiscard]] bool Matches(std::u16string_view pattern) override { return found.contains(pattern); }
-  bool Make(std::u16string_view folder) override {
-    if (makes) made.emplace_back(folder);
-    return makes;
-  }
-};
-
-class NoProcesses : public platform::Processes {
- public:
-  void StartHidden(std::u16string_view, std::u16string_view) override {}
-  void RunAndWait(std::u16string_view, std::u16string_view) override {}
-};
-
-class NoProfiles : public platform::RecordStore {
- public:
-  void Open(std::u16string_view, std::u16string_view) override {}
-  void Close() noexcept override {}
-  void SelectKey(int) override {}
-  void First() override {}
-  void Next() override {}
-  void Seek(std::u16string_view) override {}
-  [[nodiscard]] bool AtEnd() override { return true; }
-  [[nodiscard]] int Position() override { return 0; }
-  [[nodiscard]] int Count() override { return 0; }
-  [[nodiscard]] int FieldCount() override { return 0; }
-  [[nodiscard]] std::u16string Value(int) override { return {}; }
-  void Add() override {}
-  void Write(int, std::u16string_view) override {}
-  void Store() override {}
 };
 
 struct AttachmentWorld {
@@ -117,14 +67,14 @@ struct AttachmentWorld {
   model::ModelFile modelFile;
   print::PaperFormState paperForms;
   data::PrintJob job;
-  OutputFolders folders;
-  NoProcesses processes;
+  fakes::FakeFolders folders;
+  fakes::RecordedProcesses processes;
   fakes::RecordedArchiver archiver;
   platform::ZipArchiver realArchiver{files};
   bool useRealArchiver = false;
   fakes::FakePicturePages pages;
   runtime::Random random;
-  NoProfiles profiles;
+  recordfile::FileRecordStore profiles{files, u"", {}};
   print::Environment printing{files,    printers, spooler,   pictures,   prompts,
                               settings, clock,    modelFile, paperForms, runtime::Locale::Spanish()};
   Environment environment{printing, folders, processes, archiver, pages, profiles, random};

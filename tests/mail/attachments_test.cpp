@@ -28,7 +28,7 @@ TEST(CrearZip, MakesTheBitmapOfThePageAndAnArchiveInTheFolder) {
   AttachmentWorld world;
   EXPECT_EQ(world.CrearZip(u"C:\\Salida\\", u"fra.zip"), 0);
   EXPECT_EQ(world.files.contents[kBitmap], "BMP\npage 3000x3000\n1000,100 Se\xC3\xB1or\n1000,400 Total\n");
-  EXPECT_EQ(world.folders.currentFolder, u"C:\\Salida\\");
+  EXPECT_THAT(world.folders.currentSet, ElementsAre(u"C:\\Salida\\"));
   EXPECT_THAT(world.archiver.runs,
               ElementsAre(RecordedArchiver::Run{u"C:\\Salida\\fra.zip", {u"C:\\Salida\\EFactura.bmp"}}));
   EXPECT_THAT(world.prompts.warnings, IsEmpty());
@@ -47,23 +47,23 @@ TEST(CrearZip, AnEmptyFolderBecomesTheComponentsOwnAndTheHostSeesIt) {
   AttachmentWorld world;
   std::u16string eDir;
   CrearZip(world.job, world.environment, eDir, u"fra.zip");
-  EXPECT_EQ(eDir, u"C:\\Componente\\");
-  EXPECT_TRUE(world.files.contents.contains(u"C:\\Componente\\\\EFactura.bmp"));
-  EXPECT_EQ(world.archiver.runs.at(0).archive, u"C:\\Componente\\fra.zip");
+  EXPECT_EQ(eDir, u"C:\\Programas\\Modelos\\");
+  EXPECT_TRUE(world.files.contents.contains(u"C:\\Programas\\Modelos\\\\EFactura.bmp"));
+  EXPECT_EQ(world.archiver.runs.at(0).archive, u"C:\\Programas\\Modelos\\fra.zip");
 }
 
 TEST(CrearZip, AMissingFolderIsMadeAndOneWithSomethingInItIsNot) {
   AttachmentWorld world;
   EXPECT_EQ(world.CrearZip(u"C:\\Nueva\\", u"fra.zip"), 0);
   EXPECT_THAT(world.folders.made, ElementsAre(u"C:\\Nueva\\"));
-  world.folders.found.insert(u"C:\\Salida\\*.*");
+  world.folders.existing.insert(u"C:\\Salida\\*.*");
   EXPECT_EQ(world.CrearZip(u"C:\\Salida\\", u"fra.zip"), 0);
   EXPECT_THAT(world.folders.made, ElementsAre(u"C:\\Nueva\\"));
 }
 
 TEST(CrearZip, MakingAFolderThatIsThereButEmptyFailsAndIsIgnored) {
   AttachmentWorld world;
-  world.folders.makes = false;
+  world.folders.makingFails = true;
   EXPECT_EQ(world.CrearZip(u"C:\\Salida\\", u"fra.zip"), 0);
   EXPECT_EQ(world.archiver.runs.size(), 1U);
 }
@@ -84,7 +84,7 @@ TEST(CrearZip, ABitmapThatCannotBeSavedIsTheHostsErrorAndNothingIsPacked) {
 
 TEST(CrearZip, AFolderThatWentAwayIsTheHostsError) {
   AttachmentWorld world;
-  world.folders.failCurrentWith = ErrorNumber::PathNotFound;
+  world.folders.cannotBeSet.insert(u"C:\\Salida\\");
   EXPECT_EQ(world.CrearZip(u"C:\\Salida\\", u"fra.zip"), 76);
   EXPECT_THAT(world.archiver.runs, IsEmpty());
 }
@@ -192,8 +192,8 @@ TEST(CrearPdf, AnEmptyFolderBecomesTheComponentsOwn) {
   AttachmentWorld world;
   std::u16string eDir;
   CrearPdf(world.job, world.environment, eDir, u"fra.pdf");
-  EXPECT_EQ(eDir, u"C:\\Componente\\");
-  EXPECT_TRUE(world.files.contents.contains(u"C:\\Componente\\\\fra.pdf"));
+  EXPECT_EQ(eDir, u"C:\\Programas\\Modelos\\");
+  EXPECT_TRUE(world.files.contents.contains(u"C:\\Programas\\Modelos\\\\fra.pdf"));
 }
 
 TEST(CrearPdf, AMissingFolderIsMade) {

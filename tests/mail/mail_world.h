@@ -46,7 +46,7 @@ class SnapshotArchiver : public platform::Archiver {
   [[nodiscard]] platform::ZipResult Add(std::u16string_view name,
                                         const std::vector<std::u16string>& paths) override {
     archive = name;
-    runs.push_back({paths, folders_.current});
+    runs.push_back({paths, folders_.currentFolder});
     for (const std::u16string& path : paths) {
       if (auto bytes = files_.Read(path)) packed[path] = *bytes;
     }

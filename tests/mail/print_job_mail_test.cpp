@@ -173,16 +173,23 @@ TEST_F(SendingAPrintJob, GoesOnAfterErrorsOnceTheDocumentIsThere) {
   EXPECT_TRUE(LooseFilesAreGone());
 }
 
-// Where the request cannot be written.
-class WithoutTheRequest : public SendingAPrintJob {
+// The request, the body or the archive cannot be made.
+class WhenAStepFails : public SendingAPrintJob {
  protected:
   struct Refusing : fakes::MemoryFiles {
+    std::u16string refused = u"EMAIL.TXT";
+
     void Replace(std::u16string_view path, std::string_view bytes) override {
-      if (path.ends_with(u"EMAIL.TXT")) throw runtime::RuntimeError(runtime::ErrorNumber::PermissionDenied);
+      if (path.ends_with(refused)) throw runtime::RuntimeError(runtime::ErrorNumber::PermissionDenied);
       MemoryFiles::Replace(path, bytes);
     }
   };
-  WithoutTheRequest() { refusing.contents = files.contents; }
+  struct Throwing : platform::Archiver {
+    [[nodiscard]] platform::ZipResult Add(std::u16string_view, const std::vector<std::u16string>&) override {
+      throw runtime::RuntimeError(runtime::ErrorNumber::OutOfMemory);
+    }
+  };
+  WhenAStepFails() { refusing.contents = files.contents; }
 
   Refusing refusing;
   print::Environment otherPrinting{refusing, printers, spooler,   pictures,   prompts,
@@ -190,7 +197,7 @@ class WithoutTheRequest : public SendingAPrintJob {
   Environment other{otherPrinting, folders, processes, archiver, pages, profiles, random};
 };
 
-TEST_F(WithoutTheRequest, AModelGoesOnAndTellsAtTheEnd) {
+TEST_F(WhenAStepFails, AModelGoesOnWithoutItsRequestAndTellsAtTheEnd) {
   std::u16string folder = u"C:\\Docs\\";
   EXPECT_EQ(ErrorOf([&] { return EmailModelo(job, other, folder, u"f.doc"), 0; }), 50103);
   EXPECT_EQ(archiver.runs.size(), 2u);
@@ -198,9 +205,25 @@ TEST_F(WithoutTheRequest, AModelGoesOnAndTellsAtTheEnd) {
   EXPECT_FALSE(refusing.contents.contains(kBodyPath));
 }
 
-TEST_F(WithoutTheRequest, APlainMessageStopsThere) {
+TEST_F(WhenAStepFails, APlainMessageStopsWithoutItsRequest) {
   EXPECT_EQ(ErrorOf([&] { return EnviarEmail(job, other), 0; }), 50103);
   EXPECT_TRUE(archiver.runs.empty());
+  EXPECT_TRUE(processes.started.empty());
+}
+
+TEST_F(WhenAStepFails, ARequestWithoutItsBodyDoesNotStay) {
+  refusing.refused = u"EMAIL.HTM";
+  EXPECT_EQ(ErrorOf([&] { return EnviarEmail(job, other), 0; }), 50103);
+  EXPECT_EQ(refusing.replacements.size(), 1u);  // the request was written
+  EXPECT_FALSE(refusing.contents.contains(kRequestPath));
+}
+
+TEST_F(WhenAStepFails, NothingStaysWhenPackingFails) {
+  Throwing throwing;
+  const Environment failing{printing, folders, processes, throwing, pages, profiles, random};
+  EXPECT_EQ(ErrorOf([&] { return EnviarEmail(job, failing), 0; }), 50103);
+  EXPECT_EQ(files.replacements.size(), 2u);
+  EXPECT_TRUE(LooseFilesAreGone());
   EXPECT_TRUE(processes.started.empty());
 }
 

@@ -78,7 +78,8 @@ TEST_F(HostileMessages, CannotBreakOutOfTheSendersQuotes) {
 
 TEST_F(HostileMessages, CannotReplaceTheRequestOrTheBodyByAnAttachment) {
   for (const std::u16string_view path :
-       {u"C:\\a\\email.txt", u"C:\\a\\Email.Htm", u"EMAIL.TXT", u"C:/a/EMAIL.HTM"}) {
+       {u"C:\\a\\email.txt", u"C:\\a\\Email.Htm", u"EMAIL.TXT", u"C:/a/EMAIL.HTM", u"C:EMAIL.TXT",
+        u"C:\\a\\EMAIL.TXT. .", u"C:\\a\\EMAIL.TXT::$DATA", u"C:\\a\\x.pdf;EMAIL.TXT"}) {
     message.archivosAdjuntos = path;
     files.contents[std::u16string(path)] = "otra cosa";
     EXPECT_EQ(Send(), u"ERROR Nombre o número de archivo incorrecto");

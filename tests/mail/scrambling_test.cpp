@@ -48,6 +48,8 @@ TEST_F(PasswordScrambling, LetsOtherCharactersTravelAsThemselvesBesideAMarker) {
   EXPECT_EQ(Scramble(u"- !"), u"& &-&!");
 }
 
+TEST_F(PasswordScrambling, IsReversedAsItsFormatSays) { EXPECT_EQ(ReversedPassword(u"B-Am&G"), u"a-1"); }
+
 TEST_F(PasswordScrambling, DropsOuterBlanks) {
   EXPECT_EQ(ReversedPassword(Scramble(u"  clave 1 ")), u"clave 1");
 }

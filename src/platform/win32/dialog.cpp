@@ -234,6 +234,7 @@ int ShowMessage(std::u16string_view title, std::u16string_view text, UINT button
   const HWND owner = GetActiveWindow();
   const UINT modality = owner ? MB_APPLMODAL : MB_TASKMODAL | MB_SETFOREGROUND;
   const VisualStyles styles;
+  const OtherWindows others(owner);
   const int pressed =
       MessageBoxW(owner, Wide(std::u16string(text)), Wide(std::u16string(title)), buttonsAndIcon | modality);
   if (pressed == 0) Throw(runtime::ErrorNumber::OutOfMemory);

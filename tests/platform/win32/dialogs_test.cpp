@@ -7,6 +7,7 @@
 #include <functional>
 
 #include "platform/win32/files.h"
+#include "platform/win32/handles.h"
 #include "tests/platform/win32/dialog_user.h"
 #include "tests/platform/win32/gdi_objects.h"
 #include "tests/platform/win32/scratch_folder.h"
@@ -252,6 +253,27 @@ TEST(Messages, TellTheirText) {
     EXPECT_TRUE(user.Acted());
     EXPECT_EQ(shown, u"Tamaño exesivo");
   }
+}
+
+TEST(Messages, DisableEveryWindowOfTheThreadMeanwhile) {
+  const OwnedWindow first(CreateWindowExW(0, L"STATIC", L"1", WS_OVERLAPPEDWINDOW | WS_VISIBLE, 0, 0, 50, 50,
+                                          nullptr, nullptr, nullptr, nullptr));
+  const OwnedWindow second(CreateWindowExW(0, L"STATIC", L"2", WS_OVERLAPPEDWINDOW | WS_VISIBLE, 0, 0, 50, 50,
+                                           nullptr, nullptr, nullptr, nullptr));
+  SetActiveWindow(first.Get());
+  bool firstMeanwhile = true;
+  bool secondMeanwhile = true;
+  WindowDriver user(kMessageTitle, [&](HWND box) {
+    firstMeanwhile = IsWindowEnabled(first.Get());
+    secondMeanwhile = IsWindowEnabled(second.Get());
+    PostMessageW(box, WM_COMMAND, IDOK, 0);
+  });
+  Win32Dialogs().Tell(Icon::Information, u"Tamaño exesivo");
+  EXPECT_TRUE(user.Acted());
+  EXPECT_FALSE(firstMeanwhile);
+  EXPECT_FALSE(secondMeanwhile);
+  EXPECT_TRUE(IsWindowEnabled(first.Get()));
+  EXPECT_TRUE(IsWindowEnabled(second.Get()));
 }
 
 std::u16string CurrentFolder() {

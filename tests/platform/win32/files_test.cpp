@@ -57,6 +57,36 @@ TEST_F(FilesOnDisk, ReplacingLeavesOnlyTheNewFile) {
   EXPECT_THAT(folder.Names(), ElementsAre(u"modelo.xml"));
 }
 
+TEST_F(FilesOnDisk, ReplacingUnflushedSwapsAsWell) {
+  const std::u16string path = folder.File(u"EFactura.bmp");
+  files.ReplaceUnflushed(path, "a longer old content");
+  files.ReplaceUnflushed(path, "new");
+  EXPECT_THAT(files.Read(path), Optional(std::string("new")));
+  EXPECT_THAT(folder.Names(), ElementsAre(u"EFactura.bmp"));
+  const OwnedFile reader = OpenedBySomeoneElse(path, FILE_SHARE_READ | FILE_SHARE_WRITE);
+  EXPECT_RUNTIME_ERROR(70, files.ReplaceUnflushed(path, "newer"));
+  EXPECT_THAT(files.Read(path), Optional(std::string("new")));
+}
+
+TEST_F(FilesOnDisk, TellTheLocalTimeOfTheirLastChange) {
+  const std::u16string path = folder.File(u"modelo.xml");
+  EXPECT_EQ(files.LastChange(path), std::nullopt);
+  files.Replace(path, "x");
+  const SYSTEMTIME local{2015, 7, 0, 14, 9, 8, 6, 0};
+  SYSTEMTIME universal;
+  FILETIME time;
+  TzSpecificLocalTimeToSystemTime(nullptr, &local, &universal);
+  SystemTimeToFileTime(&universal, &time);
+  {
+    const OwnedFile file(
+        CreateFileW(Wide(path), FILE_WRITE_ATTRIBUTES, 0, nullptr, OPEN_EXISTING, 0, nullptr));
+    ASSERT_TRUE(SetFileTime(file.Get(), nullptr, nullptr, &time));
+  }
+  const std::optional<runtime::DateTime> found = files.LastChange(path);
+  ASSERT_TRUE(found);
+  EXPECT_EQ(runtime::Format(*found, u"yyyy-MM-dd HH:mm:ss"), u"2015-07-14 09:08:06");
+}
+
 TEST_F(FilesOnDisk, ReplacingKeepsAHiddenFileHidden) {
   const std::u16string path = folder.File(u"modelo.xml");
   files.Replace(path, "old");

@@ -56,6 +56,26 @@ TEST_F(PagePicture, HasFifteenTwipsAPixelAndIsWhite) {
   EXPECT_FALSE(InkOn(*surface.Page()).Any());
 }
 
+TEST_F(PagePicture, IsSeenFromItsTopRowDown) {
+  surface.SetForeColor(0x0000FF);
+  surface.PrintText({1500, 750}, u"X");
+  const PageImage image = surface.Image();
+  ASSERT_EQ(image.width, 400);
+  ASSERT_EQ(image.height, 200);
+  for (int y = 0; y < image.height; ++y) EXPECT_EQ(image.topRow + y * image.stride, surface.Page()->Row(y));
+  const Ink ink = InkOn(*surface.Page());
+  ASSERT_TRUE(ink.Any());
+  const std::uint8_t* const inked = image.topRow + (ink.top + ink.bottom) / 2 * image.stride;
+  EXPECT_GT(std::count_if(inked, inked + image.width * 3, [](std::uint8_t byte) { return byte != 255; }), 0);
+}
+
+TEST(NewPagePicture, HasNoPixelsBeforeItHasASize) {
+  Win32PicturePages pages;
+  const std::unique_ptr<PicturePage> page = pages.New();
+  EXPECT_EQ(page->Image().topRow, nullptr);
+  EXPECT_EQ(page->BmpBytes(), "");
+}
+
 TEST_F(PagePicture, OfA4IsRoundedToWholePixels) {
   surface.SetPageSize(11906, 16838);
   EXPECT_EQ(surface.Page()->Width(), 794);

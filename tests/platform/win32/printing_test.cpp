@@ -87,27 +87,6 @@ TEST(InstalledPrinters, TellThePapersThatTheyTake) {
   EXPECT_RUNTIME_ERROR(482, (void)Win32Printers().PaperCodes(u"Impresora que no existe"));
 }
 
-void ExpectPage(std::u16string_view device, const Paper& paper, double width, double height) {
-  const std::optional<PageSize> page = Win32Printers().PageOf(device, paper);
-  ASSERT_TRUE(page);
-  EXPECT_NEAR(page->widthTwips, width, 15);
-  EXPECT_NEAR(page->heightTwips, height, 15);
-}
-
-TEST(PagesOfPrinters, AreWholeWithTheirUnprintableEdges) {
-  ExpectPage(kA4, {DMPAPER_A4, u"", 0, 0}, 11906, 16838);
-  ExpectPage(kA4, {DMPAPER_A5, u"", 0, 0}, Twips(14.8), Twips(21));
-  ExpectPage(kReceipts, {0, u"PS", 11339, 5760}, 11339, 5760);
-}
-
-TEST(PagesOfPrinters, WithoutACodeAreOfTheSizeGiven) {
-  ExpectPage(kA4, {0, u"Especial", Twips(12.3), Twips(17.7)}, Twips(12.3), Twips(17.7));
-}
-
-TEST(PagesOfPrinters, AreNoneForACodeThatThePrinterRefuses) {
-  EXPECT_EQ(Win32Printers().PageOf(kA4, {113, u"", 11906, 16838}), std::nullopt);
-}
-
 struct PrinterPages : testing::Test {
   Win32Printers printers;
 };
@@ -221,6 +200,27 @@ TEST_F(PrinterPages, LeaveNoGdiObjectsBehind) {
     print(kBroken);  // thrown away
   }
   EXPECT_EQ(GdiObjectCount(), before);
+}
+
+void ExpectPage(std::u16string_view device, const Paper& paper, double width, double height) {
+  const std::optional<PageSize> page = Win32Printers().PageOf(device, paper);
+  ASSERT_TRUE(page);
+  EXPECT_NEAR(page->widthTwips, width, 15);
+  EXPECT_NEAR(page->heightTwips, height, 15);
+}
+
+TEST(PagesOfPrinters, AreWholeWithTheirUnprintableEdges) {
+  ExpectPage(kA4, {DMPAPER_A4, u"", 0, 0}, 11906, 16838);
+  ExpectPage(kA4, {DMPAPER_A5, u"", 0, 0}, Twips(14.8), Twips(21));
+  ExpectPage(kReceipts, {0, u"PS", 11339, 5760}, 11339, 5760);
+}
+
+TEST(PagesOfPrinters, WithoutACodeAreOfTheSizeGiven) {
+  ExpectPage(kA4, {0, u"Especial", Twips(12.3), Twips(17.7)}, Twips(12.3), Twips(17.7));
+}
+
+TEST(PagesOfPrinters, AreNoneForACodeThatThePrinterRefuses) {
+  EXPECT_EQ(Win32Printers().PageOf(kA4, {113, u"", 11906, 16838}), std::nullopt);
 }
 
 }  // namespace

@@ -68,3 +68,14 @@ cmp "$pdf" "$QM_SCRATCH/first.pdf" || fail "the locked file was changed"
 attach "error 76" 1 "$(folder falta/dentro)\\" fra.pdf
 attach "error 50102" 9 "$(folder salida)\\" fra.pdf
 expect_no_leftovers "$QM_SCRATCH"
+
+# The example host leaves its invoice as both.
+expect_equal "factura.js" "Factura lista para enviar" \
+  "$(run cscript //nologo "$(windows_path "$QM_SOURCE_DIR/examples/factura.js")" "$(folder ejemplo)\\" | tr -d '\r')"
+expect_sound_pdf "$QM_SCRATCH/ejemplo/factura.pdf"
+expect_same_picture "$QM_SCRATCH/ejemplo/factura.pdf" "$QM_SCRATCH/ejemplo/EFactura.bmp"
+invoice=$(words_of "$QM_SCRATCH/ejemplo/factura.pdf")
+for text in "FACTURA" "Muñoz & Íñiguez, Construcciones" "31/12/15" "1.099,04"; do
+  grep -qF -- "$text" <<<"$invoice" || fail "\"$text\" is missing on the invoice: $invoice"
+done
+expect_equal "entries" "EFactura.bmp:2677286" "$(entries "$QM_SCRATCH/ejemplo/factura.zip")"

@@ -1,6 +1,7 @@
 #!/bin/bash
 # zip.sh HOST: archives made by CrearZip, read back by another program.
 source "$(dirname "$0")/lib.sh"
+need zip unzip
 host=$1
 fresh_folders
 models=$QM_SCRATCH/modelos.xml

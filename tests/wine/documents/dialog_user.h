@@ -84,7 +84,13 @@ class DialogUser {
     answer.action(dialog);
   }
 
-  static std::u16string Said(HWND dialog) { return Dialogs::TextOf(Dialogs::ChildOf(dialog, u"Static")); }
+  // The first static text; that of a message box comes after its icon and has this number.
+  static std::u16string Said(HWND dialog) {
+    constexpr int kMessageText = 0xFFFF;
+    const std::u16string first = Dialogs::TextOf(Dialogs::ChildOf(dialog, u"Static"));
+    const HWND message = GetDlgItem(dialog, kMessageText);
+    return first.empty() && message ? Dialogs::TextOf(message) : first;
+  }
 
   [[noreturn]] static void GiveUp(const char* what, HWND dialog) {
     std::printf("%s: <%s> <%s>\n", what, qm::runtime::ToUtf8(Dialogs::TextOf(dialog)).c_str(),

@@ -1,34 +1,23 @@
 #!/bin/bash
 # correo.sh SENDER: script hosts keep profiles and send messages; the stand-in sender is started, and the archives
 # are read back by other programs.
-source "$(dirname "$0")/../hosts/lib.sh"
+source "$(dirname "$0")/lib.sh"
 need unzip pdftotext
 use_prefix hosts
 fresh_folders
 here=$QM_SOURCE_DIR/tests/wine/mail
 
-# Where each bitness has its common program files.
-common="$QM_WINEPREFIX/drive_c/Program Files"
-[ -z "$QM_RUN_FLAGS" ] || common+=" (x86)"
-common+="/Common Files/Quillmar"
-rm -rf "$common"
-mkdir -p "$common"
-cp "$1" "$common/Qmenviar.exe"
+use_sender "$1"
 
 printf '<Modelos><Modelo Numero="1" Width="6000" Height="3000"><Campo><Descripcion>Cliente</Descripcion>%s</Campo>%s' \
   "<Top>300</Top><Left>300</Left><Width>4000</Width><Height>600</Height><FontSize>14</FontSize>" \
   "</Modelo></Modelos>" >"$QM_SCRATCH/modelos.xml"
-log="$common/Qmenviar.log"
 expect_good_run cscript //nologo "$(windows_path "$here/correo.js")" "$(windows_path "$QM_SCRATCH")" "$(windows_path "$log")"
 expect_good_run cscript //nologo "$(windows_path "$here/perfiles.vbs")"
 "$here/read_back.py" "$QM_SCRATCH"
 
 # Five messages, five starts, hidden; the outgoing folder is the one argument.
-for _ in $(seq 100); do
-  [ "$(wc -l <"$log" 2>/dev/null || echo 0)" -ge 5 ] && break
-  sleep 0.1
-done
-expect_equal "starts of the sender" 5 "$(wc -l <"$log")"
+expect_starts 5
 program="C:\\${common#*/drive_c/}"
 program="\"${program//\//\\}\\Qmenviar.exe\""
 for outgoing in "espera 2" "trabajos 3"; do
