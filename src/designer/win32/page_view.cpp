@@ -245,6 +245,8 @@ void PageView::DrawMarks() {
                                  : RECT{0, origin.y + at, buffer_->Width(), origin.y + at + 1},
                   PixelOf(kGuide));
   }
+  if (const Field* field = TheCanvas().Dragging() ? Current().At(lifted_) : nullptr)
+    buffer_->Outline(ToView(transform.PixelsOf(field->box)), PixelOf(kAccent), true);
   if (const auto handles = TheCanvas().Handles()) {
     if (const Field* field = Current().At(presenter_.TheDocument().Selected()))
       buffer_->Outline(ToView(transform.PixelsOf(field->box)), PixelOf(kAccent), false);
