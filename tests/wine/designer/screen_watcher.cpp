@@ -1,8 +1,7 @@
 // screen_watcher: says what stands on the screen, for tests that act with real mouse and keyboard and have to
-// know where things are and when they have come. For every line of its input it prints one line: a JSON object
-// of the windows in sight, topmost first, with their controls, the menu state and who has the focus. Ends with
-// its input.
-// Units: pixels of the screen.
+// know where things are and when they have come. For every line of its input it prints one line: a JSON
+// object of the windows in sight, topmost first, with their controls, the menu state and who has the focus.
+// Ends with its input. Units: pixels of the screen.
 
 #include <windows.h>
 
@@ -16,8 +15,8 @@ constexpr UINT kAnswerWithinMilliseconds = 2000;
 std::string Utf8(const std::wstring& text) {
   const int length = static_cast<int>(text.size());
   std::string bytes(text.size() * 3, '\0');
-  const int used =
-      WideCharToMultiByte(CP_UTF8, 0, text.data(), length, bytes.data(), static_cast<int>(bytes.size()), nullptr, nullptr);
+  const int used = WideCharToMultiByte(CP_UTF8, 0, text.data(), length, bytes.data(),
+                                       static_cast<int>(bytes.size()), nullptr, nullptr);
   bytes.resize(static_cast<std::size_t>(used));
   return bytes;
 }
@@ -31,7 +30,9 @@ std::string Quoted(const std::wstring& text) {
   return '"' + Utf8(safe) + '"';
 }
 
-std::string Member(const char* name, const std::string& value) { return '"' + std::string(name) + "\":" + value; }
+std::string Member(const char* name, const std::string& value) {
+  return '"' + std::string(name) + "\":" + value;
+}
 std::string Member(const char* name, long long value) { return Member(name, std::to_string(value)); }
 std::string Handle(HWND window) { return std::to_string(reinterpret_cast<UINT_PTR>(window)); }
 
@@ -57,7 +58,8 @@ std::wstring TextOf(HWND window) {
 long long StateOf(HWND window, const std::wstring& className) {
   if (className == L"Button") return static_cast<long long>(Ask(window, BM_GETCHECK));
   if (className == L"ComboBox") return static_cast<int>(Ask(window, CB_GETCURSEL));
-  if (className == L"ListBox" || className == L"ComboLBox") return static_cast<int>(Ask(window, LB_GETCURSEL));
+  if (className == L"ListBox" || className == L"ComboLBox")
+    return static_cast<int>(Ask(window, LB_GETCURSEL));
   return 0;
 }
 
@@ -95,8 +97,9 @@ std::string Look() {
   GUITHREADINFO front{};
   front.cbSize = sizeof front;
   GetGUIThreadInfo(GetWindowThreadProcessId(GetForegroundWindow(), nullptr), &front);
-  return '{' + Member("focus", Handle(front.hwndFocus)) + ',' + Member("in_menu", (front.flags & GUI_INMENUMODE) != 0) +
-         ',' + Member("windows", '[' + windows + ']') + '}';
+  return '{' + Member("focus", Handle(front.hwndFocus)) + ',' +
+         Member("in_menu", (front.flags & GUI_INMENUMODE) != 0) + ',' +
+         Member("windows", '[' + windows + ']') + '}';
 }
 
 }  // namespace
