@@ -2,7 +2,7 @@
 
 A run makes a Clerk on a copy of the example models, acts, and checks what the model file says afterwards. Nothing
 waits for a fixed time: every wait names what it waits for and gives up after LIMIT seconds.
-Units: twips on the page; pixels on the screen, 15 twips each while nothing is zoomed.
+Units: twips on the page; pixels on the screen, 15 twips each at 96 dots per inch while nothing is zoomed.
 """
 import atexit
 import contextlib
@@ -17,8 +17,9 @@ import xml.etree.ElementTree as ElementTree
 
 LIMIT = 40
 PAUSE = 0.02
-TWIPS_PER_PIXEL = 15
-PAGE_MARGIN = 14  # pixels of desk around the page
+DPI = int(os.environ.get("QM_SCREEN_DPI", "96"))  # what the prefix's screen is set to
+TWIPS_PER_PIXEL = 1440 / DPI
+PAGE_MARGIN = round(14 * DPI / 96)  # pixels of desk around the page
 
 SOURCE = os.environ["QM_SOURCE_DIR"]
 BINARY = os.environ["QM_BINARY_DIR"]

@@ -5,7 +5,7 @@ var impresion = new ActiveXObject("Qm_Modelo_Impresion3.PrintForm");
 impresion.XMLFileName = argumentos(0);
 impresion.NumeroModelo = argumentos(1);
 
-// "#" y "|" ofrecen textos que se escriben al colocarlos.
+// "#" and "|" offer texts that the clerk types when placing them.
 var campos = ["#", "|", "Numero", "FormaPago", "Observaciones", "Concepto1", "Año"];
 for (var i = 0; i < campos.length; i++) impresion.AñadirCampo(campos[i]);
 impresion.AñadirTabla(argumentos(0).replace(/[^\\]*$/, "") + "CLIEN");
