@@ -31,6 +31,7 @@ HERE = os.path.join(SOURCE, "tests/wine/designer")
 GRABAR, IMPRIMIR_PRUEBA, ELEGIR_PAPEL, TAMAÑO_PAPEL = 150, 151, 152, 153
 MODELOS, IMPRESORAS, ANCHO, ALTO, COPIAS, ES_ETIQUETA, LAB_POS = range(200, 207)
 OK, CANCEL, YES, NO = 1, 2, 6, 7
+INSERTAR, CAMPOS_DISPONIBLES, CLIENTES = 2, 3, 4  # places in the menu bar, from 0
 
 
 class Failed(Exception):
@@ -274,6 +275,9 @@ class Clerk:
     def written_since(self, before):
         now = os.stat(self.models)
         return (now.st_ino, now.st_mtime_ns) != (before.st_ino, before.st_mtime_ns)
+
+    def attributes(self, number=1):
+        return read_models(self.models)[str(number)][0]
 
     def expect_field(self, what, index, **values):
         field = self.fields()[index]

@@ -1,8 +1,6 @@
 #!/usr/bin/env python3
 """The clerk places a field from a picker menu and a text from "#", deletes a field and takes that back."""
-from clerk import expect, run
-
-CAMPOS_DISPONIBLES, CLIENTES = 3, 4  # in the menu bar
+from clerk import CAMPOS_DISPONIBLES, CLIENTES, expect, run
 
 
 def act(clerk):

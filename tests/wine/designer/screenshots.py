@@ -5,11 +5,10 @@ import os
 import subprocess
 import sys
 
-from clerk import ELEGIR_PAPEL, NO, SCRATCH, example_models, run
+from clerk import CAMPOS_DISPONIBLES, ELEGIR_PAPEL, NO, SCRATCH, example_models, run
 
 FOLDER = sys.argv[1]
 COLOURS = 64  # few enough for small files, enough for smooth letters
-CAMPOS_DISPONIBLES = 3  # in the menu bar
 LOGO = (1150, 410)                 # a place within the logo that the model is given
 
 
