@@ -98,7 +98,8 @@ def read_models(path):
 
 
 class Clerk:
-    def __init__(self, name, number=1, models=None):
+    def __init__(self, name, number=1, models=None, meets=None):
+        """MEETS is done before the window comes, for dialogs that stand in front of it."""
         self.name = name
         self.models = models or example_models()
         self.pictures = 0
@@ -109,6 +110,8 @@ class Clerk:
         self.host = subprocess.Popen(
             windows_program("cscript", "//nologo", windows_path(os.path.join(HERE, "mostrar.js")),
                             windows_path(self.models), str(number)), stdout=subprocess.PIPE)
+        if meets:
+            meets(self)
         self.form = until("the designer", self.opened)[0]
         until("the page to have the focus", lambda: self.look()["focus"] == self.page()["handle"])
 
@@ -145,6 +148,15 @@ class Clerk:
 
     def dialog(self, title):
         return self.window("#32770", title)
+
+    def answer(self, button, *said):
+        """A message that says so is answered by that button."""
+        message = self.dialog("Modelos de impresión")
+        texts = [control["text"] for control in message["controls"] if control["class"] == "Static" and control["text"]]
+        expect("the message", list(said), texts)
+        self.screenshot()
+        self.click(self.control(button, message))
+        self.gone(message)
 
     def gone(self, window):
         until(f"the window {window['text']} to go",

@@ -7,11 +7,7 @@ QUESTION = "Se ha modificado el modelo... ¿desea grabar las modificaciones?"
 
 def close_with(clerk, answer):
     clerk.key("alt+F4")
-    question = clerk.dialog("Modelos de impresión")
-    texts = [control["text"] for control in question["controls"] if control["class"] == "Static" and control["text"]]
-    expect("the question", [QUESTION], texts)
-    clerk.screenshot()
-    clerk.click(clerk.control(answer, question))
+    clerk.answer(answer, QUESTION)
     clerk.expect_end()
 
 
