@@ -73,7 +73,7 @@ class Archive {
     zip_stat_t status;
     if (zip_source_stat(source_, &status) != 0) Fail(*zip_source_error(source_));
     if (zip_source_open(source_) != 0) Fail(*zip_source_error(source_));
-    std::string bytes(status.size, '\0');
+    std::string bytes(static_cast<std::size_t>(status.size), '\0');
     const zip_int64_t read = zip_source_read(source_, bytes.data(), bytes.size());
     zip_source_close(source_);
     if (read != static_cast<zip_int64_t>(bytes.size())) Fail(*zip_source_error(source_));
