@@ -9,6 +9,7 @@ import contextlib
 import hashlib
 import json
 import os
+import re
 import shutil
 import subprocess
 import sys
@@ -31,6 +32,7 @@ HERE = os.path.join(SOURCE, "tests/wine/designer")
 GRABAR, IMPRIMIR_PRUEBA, ELEGIR_PAPEL, TAMAÑO_PAPEL = 150, 151, 152, 153
 MODELOS, IMPRESORAS, ANCHO, ALTO, COPIAS, ES_ETIQUETA, LAB_POS = range(200, 207)
 OK, CANCEL, YES, NO = 1, 2, 6, 7
+MARKS = "#005FB8"  # the colour of handles and of the frame of what is selected or dragged
 INSERTAR, CAMPOS_DISPONIBLES, CLIENTES = 2, 3, 4  # places in the menu bar, from 0
 
 
@@ -323,6 +325,15 @@ class Clerk:
             return len(seen) > 1 and seen[-1] == seen[-2]
         until("the picture to settle", settled)
         return path
+
+
+def colours_within(picture, window):
+    """The colours of that part of a screenshot, as "#RRGGBB", without the window's border."""
+    left, top = window["left"] + 2, window["top"] + 2
+    area = f"{window['right'] - left - 2}x{window['bottom'] - top - 2}+{left}+{top}"
+    listed = subprocess.run(["convert", picture, "-crop", area, "-format", "%c", "histogram:info:"], check=True,
+                            capture_output=True, encoding="ascii").stdout
+    return set(re.findall("#[0-9A-F]{6}", listed))
 
 
 def run(name, act, number=1, models=None):
