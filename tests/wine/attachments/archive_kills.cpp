@@ -53,7 +53,7 @@ std::string EntryOf(zip_t* archive, const char* name) {
   if (zip_stat(archive, name, 0, &status) != 0) return "(not there)";
   zip_file_t* file = zip_fopen(archive, name, 0);
   if (!file) return "(cannot be opened)";
-  std::string content(status.size, '\0');
+  std::string content(static_cast<std::size_t>(status.size), '\0');
   const zip_int64_t read = zip_fread(file, content.data(), content.size());
   const bool whole = zip_fclose(file) == 0 && read == static_cast<zip_int64_t>(content.size());
   return whole ? content : "(damaged)";
