@@ -1,7 +1,7 @@
 #!/bin/bash
 # demo.sh: installs what is missing, builds the component and the record-file library, registers them in the
-# project's private Wine prefix, has script hosts print on the prefix's printers, and leaves what was printed in
-# build/demo/.
+# project's private Wine prefix, has script hosts print on the prefix's printers, and leaves what was printed, and
+# a picture of the designer, in build/demo/.
 set -euo pipefail
 cd "$(dirname "$0")"
 scripts/build.sh win64
@@ -48,3 +48,7 @@ scripts/wine-run.sh build/win64/accept_dialog.exe "Opciones de Etiquetas" &
 scripts/wine-run.sh cscript //nologo "$(windows_path examples/etiquetas.js)"
 wait
 show etiquetas "labels of the customers of a record file, made and printed by examples/etiquetas.js"
+
+# The window is looked at on a display of its own; nobody has to do anything.
+tests/wine/designer/screenshots.sh "$demo" disenador >/dev/null
+echo "build/demo/disenador.png: the designer with the example invoice"

@@ -245,7 +245,10 @@ void PageView::DrawMarks() {
                                  : RECT{0, origin.y + at, buffer_->Width(), origin.y + at + 1},
                   PixelOf(kGuide));
   }
-  if (const Field* field = TheCanvas().Dragging() ? Current().At(lifted_) : nullptr)
+  // Pressed but not moved yet, the lifted one may still be another.
+  const Document& document = presenter_.TheDocument();
+  const bool moving = TheCanvas().Dragging() && !document.LogoSelected() && lifted_ == document.Selected();
+  if (const Field* field = moving ? Current().At(lifted_) : nullptr)
     buffer_->Outline(ToView(transform.PixelsOf(field->box)), PixelOf(kAccent), true);
   if (const auto handles = TheCanvas().Handles()) {
     if (const Field* field = Current().At(presenter_.TheDocument().Selected()))

@@ -100,6 +100,25 @@ class Clerk {
   std::thread thread_;
 };
 
+// The clerk's mouse is the only one: what the system says of the real one, whose buttons are up, would end
+// the clerk's drags. Its movements come through the queue, the clerk's do not.
+class NoOtherMouse {
+ public:
+  NoOtherMouse() : hook_(SetWindowsHookExW(WH_GETMESSAGE, Silence, nullptr, GetCurrentThreadId())) {}
+  NoOtherMouse(const NoOtherMouse&) = delete;
+  NoOtherMouse& operator=(const NoOtherMouse&) = delete;
+  ~NoOtherMouse() { UnhookWindowsHookEx(hook_); }
+
+ private:
+  static LRESULT CALLBACK Silence(int code, WPARAM wide, LPARAM parameter) {
+    MSG& message = *reinterpret_cast<MSG*>(parameter);
+    if (code == HC_ACTION && message.message == WM_MOUSEMOVE) message.message = WM_NULL;
+    return CallNextHookEx(nullptr, code, wide, parameter);
+  }
+
+  HHOOK hook_;
+};
+
 // The whole of a visit; true when the clerk found the window and did everything.
 inline bool Visit(WindowWorld& world, const Clerk::Action& action, std::int16_t numeroModelo = 1) {
   std::atomic<bool> acted = false;
@@ -108,6 +127,7 @@ inline bool Visit(WindowWorld& world, const Clerk::Action& action, std::int16_t 
       action(self);
       acted = true;
     });
+    const NoOtherMouse silence;
     ShowModeloPrint(world.world, world.menus, numeroModelo);
   }
   return acted;
