@@ -31,7 +31,7 @@ struct Pictures : testing::Test, DesigningWorld {
   }
 
   Document document;
-  Images images{environment, document};
+  Images images{world, document};
 
   [[nodiscard]] const Layout& Now() const { return document.Current(); }
   void InsertaImagen(std::u16string path) {
