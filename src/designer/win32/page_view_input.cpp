@@ -60,6 +60,8 @@ Answer PageView::OnLeftDown(WPARAM, LPARAM parameter) {
 
 Answer PageView::OnLeftDoubleClick(WPARAM wide, LPARAM parameter) {
   const platform::Point at = ToPage(PointOf(parameter));
+  const bool onHandle = TheCanvas().PointerAt(at) != Pointer::Arrow;  // above whatever lies there
+  if (onHandle) return OnLeftDown(wide, parameter);
   if (TheCanvas().FieldAt(at) != 0) {
     presenter_.V_Propiedades_Click();
   } else if (TheCanvas().LogoAt(at)) {

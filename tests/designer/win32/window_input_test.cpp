@@ -132,6 +132,19 @@ TEST(MouseOnTheCanvas, ADoubleClickOpensThePropertiesOfTheField) {
   }));
 }
 
+TEST(MouseOnTheCanvas, ADoubleClickOnAHandleUponAnotherFieldDragsTheHandle) {
+  WindowWorld world;
+  world.Keep(ModelFile(Campo("UNO", 1500, 1500, 1500, 300) + Campo("DOS", 3000, 1500, 1500, 300)));
+  EXPECT_TRUE(Visit(world, [&](Clerk& clerk) {
+    clerk.ClickAt(1800, 1650);
+    SendMessageW(clerk.Page(), WM_LBUTTONDBLCLK, MK_LBUTTON, Clerk::At(3045, 1650));
+    clerk.Move(3645, 1650);
+    clerk.Release(3645, 1650);
+    clerk.Click(kGrabar);
+  }));
+  EXPECT_THAT(world.Kept(), HasSubstr(PlaceOf(1500, 1500) + SizeOf(2100, 300)));
+}
+
 TEST(MouseOnTheCanvas, LosingTheMouseLeavesTheFieldWhereItIs) {
   OneField world;
   EXPECT_TRUE(Visit(world, [&](Clerk& clerk) {
