@@ -166,6 +166,17 @@ TEST_F(PaperChoice, WhereTheFormCannotBeMadeThePrinterTakesTheSizeIfItCan) {
   EXPECT_EQ(printers.papersAsked.back().heightTwips, 2835);
 }
 
+TEST_F(PaperChoice, AnotherFormOfThatNameNeverStandsForTheSizeAsked) {
+  EXPECT_EQ(ChooseSpecial({u"Carta", u"10", u"5"}), std::nullopt);  // the first form is never replaced
+  EXPECT_THAT(dialogs.told, ElementsAre(kRefused));
+
+  spooler.deleteError = 5;
+  spooler.addError = 80;
+  printers.papers[kPrinter][0] = {5670, 2835};
+  EXPECT_EQ(ChooseSpecial({u"A4", u"10", u"5"}), (ChosenPage{u"10", u"5", 10, 5}));
+  EXPECT_EQ(printers.papersAsked.back().formName, u"A4");
+}
+
 TEST_F(PaperChoice, ASpecialSizeThatIsNoneIsToldAndMakesNoForm) {
   for (const Texts& answers : {Texts{u"Especial", u"", u"10"}, Texts{u"Especial", u"10", u"cero"},
                                Texts{u"Especial", u"-3", u"10"}}) {
