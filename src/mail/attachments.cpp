@@ -1,5 +1,6 @@
 #include "mail/attachments.h"
 
+#include "mail/names.h"
 #include "mail/text_layer.h"
 #include "platform/pdf_writer.h"
 #include "print/model_choice.h"
@@ -33,6 +34,11 @@ struct DrawnPage {
   std::unique_ptr<PicturePage> page;
   TextLayer texts;
 };
+
+// A device would swallow the document, or wait for ever.
+void CheckName(std::u16string_view zipFile) {
+  if (!CanNameFile(zipFile)) ThrowBadFileName();
+}
 
 void DefaultFolder(std::u16string& eDir, const Environment& environment) {
   if (eDir.empty()) eDir = environment.folders.ComponentFolder() + u"\\";
@@ -96,6 +102,7 @@ void TellResult(ZipResult result, const Environment& environment) {
 void CrearZip(data::PrintJob& job, const Environment& environment, std::u16string& eDir,
               std::u16string_view zipFile) {
   if (runtime::UCase(zipFile).ends_with(kPdfEnding)) return CrearPdf(job, environment, eDir, zipFile);
+  CheckName(zipFile);
   DefaultFolder(eDir, environment);
   DrawnPage drawn(job, environment);
   MakeMissingFolder(eDir, environment);
@@ -108,6 +115,7 @@ void CrearZip(data::PrintJob& job, const Environment& environment, std::u16strin
 
 void CrearPdf(data::PrintJob& job, const Environment& environment, std::u16string& eDir,
               std::u16string_view zipFile) {
+  CheckName(zipFile);
   DefaultFolder(eDir, environment);
   DrawnPage drawn(job, environment);
   MakeMissingFolder(eDir, environment);

@@ -2,8 +2,9 @@
 // The page of a print job as a file to send: a ZIP archive with the page's bitmap, or a PDF. Both leave the
 // bitmap, EFactura.bmp, in the folder.
 // eDir:   the folder with its final backslash; an empty one becomes the component's folder.
-// Errors: those of finding the model and of files. An archive that cannot be made is told to the user
-// instead.
+// Errors: 52 for a name that no file can have; those of finding the model and of files. An archive that
+// cannot
+//         be made is told to the user instead.
 
 #include <string>
 #include <string_view>

@@ -130,11 +130,11 @@ void Pack(std::u16string_view archive, const std::vector<std::u16string>& files,
   AcumularErrorZip(static_cast<int>(environment.archiver.Add(archive, files)));
 }
 
-// What has no folder of its own is looked for in the current one.
+// What has no folder of its own is looked for in the current one, as it is before that changes.
 void PackFromItsFolder(std::u16string_view archive, const std::u16string& path,
                        const Environment& environment) {
-  GoTo(FolderOf(path), environment.folders);
   const std::u16string full = environment.folders.FullPath(path);
+  GoTo(FolderOf(path), environment.folders);
   if (CanNameFile(full)) Pack(archive, {full}, environment);
 }
 
@@ -149,9 +149,11 @@ void PackAll(std::u16string_view archive, const LooseFiles& loose, const HandOff
 }
 
 void StartSender(std::u16string_view rutaEmail, const Environment& environment) {
-  const std::u16string program =
-      environment.folders.CarpetaEspecial(kCommonProgramFiles) + u"\\Quillmar\\Qmenviar.exe";
-  environment.processes.StartHidden(program, std::u16string(u"\"").append(rutaEmail).append(u"\""));
+  const std::u16string folder = environment.folders.CarpetaEspecial(kCommonProgramFiles);
+  // Without it the path would be one of the current drive, which may be an attachment's.
+  if (folder.empty()) throw RuntimeError(runtime::ErrorNumber::FileNotFound);
+  environment.processes.StartHidden(folder + u"\\Quillmar\\Qmenviar.exe",
+                                    std::u16string(u"\"").append(rutaEmail).append(u"\""));
 }
 
 }  // namespace
@@ -164,8 +166,12 @@ std::u16string NombresAdjuntos(const std::vector<std::u16string>& paths) {
 
 void AddReferences(HandOff& message, const Environment& environment) {
   const std::u16string list = text::ReferencedFiles(message.body, message.request.htmDir);
-  for (std::u16string& path : runtime::Split(list, u";")) {
-    if (CanTravel(path, environment.print.files)) message.references.push_back(std::move(path));
+  for (const std::u16string& path : runtime::Split(list, u";")) {
+    // A name with a ";" in it has fallen apart, and its later part could be any file of the disk.
+    if (!path.starts_with(message.request.htmDir)) continue;
+    // In full: packing changes the current folder, in which it was found.
+    if (CanTravel(path, environment.print.files))
+      message.references.push_back(environment.folders.FullPath(path));
   }
   message.request.attachments += NombresAdjuntos(message.references);
 }

@@ -29,6 +29,18 @@ bool IsDevice(std::u16string_view bareName) {
   return IsPort(name) || std::ranges::find(kDevices, name) != kDevices.end();
 }
 
+bool IsSeparator(char16_t letter) { return letter == u'\\' || letter == u'/'; }
+
+// "\\.\" and "\\?\" lead to devices, but for "\\?\" before a drive or a server.
+bool IsBeyondFiles(std::u16string_view path) {
+  if (path.size() < 4 || !IsSeparator(path[0]) || !IsSeparator(path[1]) || !IsSeparator(path[3]))
+    return false;
+  if (path[2] == u'.') return true;
+  const std::u16string_view rest = path.substr(4);
+  const bool hasDrive = rest.size() > 2 && rest[1] == u':' && IsSeparator(rest[2]);
+  return path[2] == u'?' && !hasDrive && !runtime::EqualFolded(rest.substr(0, 4), u"UNC\\");
+}
+
 }  // namespace
 
 std::u16string_view BareName(std::u16string_view path) { return path.substr(FolderOf(path).size()); }
@@ -46,7 +58,7 @@ std::u16string NombreArchivoValido(std::u16string_view text) {
 }
 
 bool CanNameFile(std::u16string_view path) {
-  if (path.starts_with(u"\\\\.\\")) return false;
+  if (IsBeyondFiles(path)) return false;
   if (std::ranges::any_of(path, [](char16_t letter) { return letter < u' '; })) return false;
   const std::size_t bare = path.find_last_of(u"\\/");
   return !IsDevice(bare == std::u16string_view::npos ? path : path.substr(bare + 1));

@@ -68,10 +68,12 @@ void EnviarEmail(data::PrintJob& job, const Environment& environment) {
 void EmailModelo(data::PrintJob& job, const Environment& environment, std::u16string& mydir,
                  std::u16string_view zipFile) {
   if (mydir.empty()) mydir = environment.folders.ComponentFolder() + u"\\";
+  // In full: composing and packing change the current folder.
+  const std::u16string document = environment.folders.FullPath(mydir + std::u16string(zipFile));
   Compose(job, environment, mydir, zipFile);
   if (job.mail.email.empty()) return;
   HandOff handOff = NewHandOff(job.mail, environment);
-  handOff.attachments = {mydir + std::u16string(zipFile)};
+  handOff.attachments = {document};
   handOff.request.attachments = std::u16string(zipFile) + u";";
   handOff.goOnAfterErrors = true;
   Deliver(handOff, job.mail, environment);

@@ -8,6 +8,7 @@
 #include <string>
 
 #include "runtime/code_page.h"
+#include "runtime/strings.h"
 
 namespace qm::platform {
 namespace {
@@ -85,11 +86,22 @@ class Archive {
     if (status != 0) Fail(*zip_get_error(zip_.get()));
   }
 
+  // -1 for a name that is new. The library folds the case of English letters only.
+  [[nodiscard]] zip_int64_t PlaceOf(const std::string& name) const {
+    const std::u16string wanted = runtime::FromUtf8(name);
+    const zip_int64_t count = zip_get_num_entries(zip_.get(), 0);
+    for (zip_int64_t i = 0; i < count; ++i) {
+      const char* known = zip_get_name(zip_.get(), static_cast<zip_uint64_t>(i), ZIP_FL_ENC_GUESS);
+      if (known && runtime::EqualFolded(runtime::FromUtf8(known), wanted)) return i;
+    }
+    return -1;
+  }
+
   // A new entry, or the one of that name, with new content.
   zip_uint64_t Entry(const std::string& name, const std::string& bytes) {
     zip_source_t* content = zip_source_buffer(zip_.get(), bytes.data(), bytes.size(), 0);
     if (!content) Fail(*zip_get_error(zip_.get()));
-    const zip_int64_t known = zip_name_locate(zip_.get(), name.c_str(), ZIP_FL_NOCASE | ZIP_FL_ENC_UTF_8);
+    const zip_int64_t known = PlaceOf(name);
     const zip_int64_t index =
         known < 0 ? zip_file_add(zip_.get(), name.c_str(), content, ZIP_FL_ENC_UTF_8)
         : zip_file_replace(zip_.get(), static_cast<zip_uint64_t>(known), content, 0) == 0 ? known

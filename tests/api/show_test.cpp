@@ -134,20 +134,22 @@ TEST_F(ShowingTheDesigner, WithANumberThatIsNoModelsShowsTheFirst) {
 }
 
 _PrintForm* shownAgain = nullptr;
-HRESULT resultOfShowingAgain = S_OK;
+std::atomic<HRESULT> resultOfShowingAgain = S_OK;
+
+void CALLBACK ShowAgain(HWND, UINT, UINT_PTR timer, DWORD) {
+  KillTimer(nullptr, timer);
+  resultOfShowingAgain = shownAgain->Show();
+}
 
 TEST_F(ShowingTheDesigner, WhileItIsOpenIsError400) {
   shownAgain = form_.Get();
-  const UINT_PTR timer = SetTimer(nullptr, 0, 10, [](HWND, UINT, UINT_PTR id, DWORD) {
-    KillTimer(nullptr, id);
-    resultOfShowingAgain = shownAgain->Show();
-  });
+  const UINT_PTR timer = SetTimer(nullptr, 0, 10, ShowAgain);
   const Visitor visitor([](HWND) {
     for (int attempt = 0; attempt < 2000 && resultOfShowingAgain == S_OK; ++attempt) Sleep(5);
   });
   EXPECT_EQ(form_->Show(), S_OK);
   KillTimer(nullptr, timer);
-  EXPECT_EQ(resultOfShowingAgain, RuntimeResult(400));
+  EXPECT_EQ(resultOfShowingAgain.load(), RuntimeResult(400));
 }
 
 }  // namespace

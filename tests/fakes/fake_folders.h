@@ -46,6 +46,7 @@ class FakeFolders : public platform::Folders {
     if (currentFolder.ends_with(u'\\')) currentFolder.pop_back();
   }
   [[nodiscard]] std::u16string FullPath(std::u16string_view path) override {
+    if (path.starts_with(u"\\\\")) return std::u16string(path);
     const bool hasDrive = path.size() > 1 && path[1] == u':';
     if (hasDrive && (path.size() == 2 || path[2] == u'\\' || path[2] == u'/')) return std::u16string(path);
     if (hasDrive) path.remove_prefix(2);  // from the drive's own current folder, here the same

@@ -2,22 +2,14 @@
 // A world of fakes in which a page of two texts, "Señor" and "Total", becomes a file to send.
 
 #include <string>
+#include <string_view>
 
 #include "mail/attachments.h"
 #include "platform/zip_archiver.h"
 #include "recordfile/file_record_store.h"
 #include "tests/error_of.h"
-#include "tests/fakes/fake_folders.h"
-#include "tests/fakes/fake_picture_page.h"
-#include "tests/fakes/fake_pictures.h"
-#include "tests/fakes/fake_settings.h"
-#include "tests/fakes/fixed_clock.h"
-#include "tests/fakes/memory_files.h"
 #include "tests/fakes/recorded_archiver.h"
-#include "tests/fakes/recorded_processes.h"
-#include "tests/fakes/recording_printer.h"
-#include "tests/fakes/scripted_prompts.h"
-#include "tests/fakes/scripted_spooler.h"
+#include "tests/mail/mail_fakes.h"
 
 namespace qm::mail {
 
@@ -32,7 +24,7 @@ class NearlyFullDisk : public fakes::MemoryFiles {
   }
 };
 
-struct AttachmentWorld {
+struct AttachmentWorld : MailFakes<NearlyFullDisk> {
   explicit AttachmentWorld(const std::string& attributes = {}) {
     modelFile.SetName(u"C:\\Modelos\\fact.xml");
     files.contents[modelFile.name] =
@@ -56,27 +48,11 @@ struct AttachmentWorld {
     });
   }
 
-  std::string log;
-  NearlyFullDisk files;
-  fakes::FakePrinters printers{log};
-  fakes::ScriptedSpooler spooler;
-  fakes::FakePictures pictures{files, log};
-  fakes::ScriptedPrompts prompts;
-  fakes::FakeSettings settings;
-  fakes::FixedClock clock;
-  model::ModelFile modelFile;
-  print::PaperFormState paperForms;
   data::PrintJob job;
-  fakes::FakeFolders folders;
-  fakes::RecordedProcesses processes;
   fakes::RecordedArchiver archiver;
   platform::ZipArchiver realArchiver{files};
   bool useRealArchiver = false;
-  fakes::FakePicturePages pages;
-  runtime::Random random;
   recordfile::FileRecordStore profiles{files, u"", {}};
-  print::Environment printing{files,    printers, spooler,   pictures,   prompts,
-                              settings, clock,    modelFile, paperForms, runtime::Locale::Spanish()};
   Environment environment{printing, folders, processes, archiver, pages, profiles, random};
   Environment withRealArchiver{printing, folders, processes, realArchiver, pages, profiles, random};
 };

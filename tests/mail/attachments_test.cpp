@@ -130,6 +130,15 @@ TEST(CrearZip, ASheetOfLabelsIsDrawnAsAPlainPage) {
   EXPECT_EQ(world.files.contents[kBitmap], "BMP\npage 3000x3000\n1000,100 Se\xC3\xB1or\n1000,400 Total\n");
 }
 
+TEST(CrearZip, ANameThatNoFileCanHaveIsRefusedBeforeAnythingIsMade) {
+  for (const char16_t* name : {u"CON.zip", u"nul.pdf", u"\\\\.\\C:", u"a\nb.pdf"}) {
+    AttachmentWorld world;
+    EXPECT_EQ(world.CrearZip(u"C:\\Salida\\", name), 52);
+    EXPECT_THAT(world.archiver.runs, IsEmpty());
+    EXPECT_THAT(world.files.replacements, IsEmpty());
+  }
+}
+
 TEST(CrearZip, AFullDiskLeavesTheOldArchiveAndSaysSo) {
   AttachmentWorld world;
   world.useRealArchiver = true;

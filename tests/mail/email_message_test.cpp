@@ -121,6 +121,13 @@ TEST_F(SendingWithAProfile, KeepsEmptyEntriesInTheLineOnly) {
   EXPECT_EQ(archiver.runs[2].files[0], u"C:\\a\\b");  // in the folder where the one before lay
 }
 
+TEST_F(SendingWithAProfile, LooksForAttachmentsWithoutADriveInTheWorkingFolder) {
+  message.archivosAdjuntos = u"docs\\x.pdf";
+  EXPECT_EQ(Send(), u"");
+  EXPECT_EQ(archiver.runs.at(1).files[0], u"C:\\Users\\ana\\Trabajo\\docs\\x.pdf");
+  EXPECT_EQ(folders.currentSet.back(), u"docs\\");
+}
+
 TEST_F(SendingWithAProfile, GoesOnWhereAnAttachmentsFolderIsGone) {
   folders.cannotBeSet.insert(u"E:\\nada\\");
   message.archivosAdjuntos = u"E:\\nada\\x.pdf";

@@ -8,20 +8,10 @@
 #include <utility>
 #include <vector>
 
-#include "mail/environment.h"
 #include "mail/profiles.h"
 #include "recordfile/field_list.h"
 #include "recordfile/file_record_store.h"
-#include "tests/fakes/fake_folders.h"
-#include "tests/fakes/fake_picture_page.h"
-#include "tests/fakes/fake_pictures.h"
-#include "tests/fakes/fake_settings.h"
-#include "tests/fakes/fixed_clock.h"
-#include "tests/fakes/memory_files.h"
-#include "tests/fakes/recorded_processes.h"
-#include "tests/fakes/recording_printer.h"
-#include "tests/fakes/scripted_prompts.h"
-#include "tests/fakes/scripted_spooler.h"
+#include "tests/mail/mail_fakes.h"
 
 namespace qm::mail {
 
@@ -60,25 +50,9 @@ class SnapshotArchiver : public platform::Archiver {
 
 using ProfileTexts = std::vector<std::pair<ProfileField, std::u16string>>;
 
-struct MailWorld {
-  std::string log;
-  fakes::MemoryFiles files;
-  fakes::FakePrinters printers{log};
-  fakes::ScriptedSpooler spooler;
-  fakes::FakePictures pictures{files, log};
-  fakes::ScriptedPrompts prompts;
-  fakes::FakeSettings settings;
-  fakes::FixedClock clock;
-  model::ModelFile modelFile;
-  print::PaperFormState paperForms;
-  fakes::FakeFolders folders;
-  fakes::RecordedProcesses processes;
+struct MailWorld : MailFakes<> {
   SnapshotArchiver archiver{files, folders};
-  fakes::FakePicturePages pages;
   recordfile::FileRecordStore profiles{files, kProfileTable, recordfile::ParseFieldList(kProfileFieldList)};
-  runtime::Random random;
-  print::Environment printing{files,    printers, spooler,   pictures,   prompts,
-                              settings, clock,    modelFile, paperForms, runtime::Locale::Spanish()};
   Environment environment{printing, folders, processes, archiver, pages, profiles, random};
 
   static constexpr std::u16string_view kProfilePath =

@@ -42,11 +42,13 @@ TEST(BareNames, StandBehindTheLastBackslash) {
 TEST(FileNames, OfDevicesNameNoFile) {
   for (const std::u16string_view device :
        {u"CON", u"con", u"NUL", u"C:\\a\\nul", u"C:\\a\\CON.txt", u"aux .pdf", u"com1", u"LPT9.pdf", u"COM²",
-        u"C:/a/prn", u"CONIN$", u"CON:", u"\\\\.\\PhysicalDrive0"}) {
+        u"C:/a/prn", u"CONIN$", u"CON:", u"\\\\.\\PhysicalDrive0", u"//./PhysicalDrive0", u"\\/.\\C:",
+        u"\\\\?\\PhysicalDrive0", u"\\\\?\\GLOBALROOT\\Device\\x", u"\\\\.\\"}) {
     EXPECT_FALSE(CanNameFile(device));
   }
-  for (const std::u16string_view file : {u"contrato.pdf", u"C:\\con\\a.txt", u"COM.pdf", u"LPT10", u"nulo",
-                                         u"x.con", u"\\\\servidor\\a\\b.pdf"}) {
+  for (const std::u16string_view file :
+       {u"contrato.pdf", u"C:\\con\\a.txt", u"COM.pdf", u"LPT10", u"nulo", u"x.con",
+        u"\\\\servidor\\a\\b.pdf", u"\\\\?\\C:\\a.pdf", u"\\\\?\\unc\\servidor\\a\\b.pdf", u"\\\\?"}) {
     EXPECT_TRUE(CanNameFile(file));
   }
 }

@@ -143,6 +143,27 @@ TEST_F(SendingAPrintJob, SendsTheComposedArchive) {
   EXPECT_EQ(archiver.runs.size(), 3u);  // the document's own run before the two of the hand-off
 }
 
+TEST_F(SendingAPrintJob, SendsTheDocumentOfAFolderThatIsNamedFromTheCurrentOne) {
+  EXPECT_EQ(SendModel(u"Docs\\", u"factura.pdf"), 0);
+  EXPECT_EQ(archiver.runs.back().files, (std::vector<std::u16string>{u"C:\\Inicio\\Docs\\factura.pdf"}));
+}
+
+TEST_F(SendingAPrintJob, SendsTheFilesOfAFolderThatIsNamedFromTheCurrentOne) {
+  job.mail.htmDir = u"html\\";
+  job.mail.emailTexto = u"<img src=\"logo.gif\">";
+  files.contents[u"html\\LOGO.GIF"] = "gif";
+  EXPECT_EQ(Send(), 0);
+  EXPECT_EQ(Line("Attachments"), "LOGO.GIF;");
+  EXPECT_EQ(archiver.runs.back(),
+            (SnapshotArchiver::Run{{u"C:\\Inicio\\html\\LOGO.GIF"}, u"C:\\Inicio\\html"}));
+}
+
+TEST_F(SendingAPrintJob, UsesAnOutboxThatIsNamedFromTheCurrentFolder) {
+  job.mail.rutaEmail = u"Correo\\";
+  EXPECT_EQ(Send(), 0);
+  EXPECT_TRUE(archiver.archive.starts_with(u"C:\\Inicio\\Correo\\Bandeja de Salida\\"));
+}
+
 TEST_F(SendingAPrintJob, ComposesNothingForAnotherEnding) {
   EXPECT_EQ(SendModel(u"C:\\Docs\\", u"carta.doc"), 0);
   EXPECT_EQ(pages.made, 0);
@@ -192,8 +213,7 @@ class WhenAStepFails : public SendingAPrintJob {
   WhenAStepFails() { refusing.contents = files.contents; }
 
   Refusing refusing;
-  print::Environment otherPrinting{refusing, printers, spooler,   pictures,   prompts,
-                                   settings, clock,    modelFile, paperForms, runtime::Locale::Spanish()};
+  print::Environment otherPrinting = PrintingWith(refusing);
   Environment other{otherPrinting, folders, processes, archiver, pages, profiles, random};
 };
 

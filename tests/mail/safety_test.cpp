@@ -95,6 +95,23 @@ TEST_F(HostileMessages, CannotReplaceTheRequestByAFileThatTheirTextRefersTo) {
   EXPECT_TRUE(NothingWasHandedOff());
 }
 
+TEST_F(HostileMessages, CannotNameFilesElsewhereBehindASemicolon) {
+  files.contents[u"C:\\html\\carta.htm"] = "<TEXTO><img src=\"a;C:/secreto.txt\"><img src=\"b%3Botro.txt\">";
+  files.contents[u"C:\\SECRETO.TXT"] = "secreto";
+  files.contents[u"OTRO.TXT"] = "de la carpeta actual";
+  message.archivoHTML = u"C:\\html\\carta.htm";
+  EXPECT_EQ(Send(), u"");
+  EXPECT_EQ(Line("Attachments"), "");
+  EXPECT_EQ(archiver.runs.size(), 1u);
+}
+
+TEST_F(HostileMessages, StartNoSenderOfTheCurrentDrive) {
+  folders.special.erase(43);
+  EXPECT_EQ(Send(), u"ERROR Archivo no encontrado");
+  EXPECT_TRUE(processes.started.empty());
+  EXPECT_TRUE(LooseFilesAreGone());
+}
+
 TEST_F(HostileMessages, NeverReadFromADevice) {
   files.contents[u"C:\\html\\carta.htm"] = "<TEXTO><img src=\"CON\"><img src=\"nul.gif\">";
   files.contents[u"C:\\html\\CON"] = "teclado";

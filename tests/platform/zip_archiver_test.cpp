@@ -29,7 +29,7 @@ std::vector<std::pair<std::string, std::string>> EntriesOf(const std::string& by
   for (zip_int64_t i = 0; i < zip_get_num_entries(zip, 0); ++i) {
     zip_stat_t status;
     zip_stat_index(zip, static_cast<zip_uint64_t>(i), 0, &status);
-    std::string content(status.size, '\0');
+    std::string content(static_cast<std::size_t>(status.size), '\0');
     zip_file_t* file = zip_fopen_index(zip, static_cast<zip_uint64_t>(i), 0);
     zip_fread(file, content.data(), content.size());
     zip_fclose(file);
@@ -72,6 +72,14 @@ TEST_F(ZipArchives, AnEntryOfTheSameNameIsReplacedWhateverTheCaseOfItsLetters) {
   files.contents[u"C:\\c\\UNO.TXT"] = "otro";
   ASSERT_EQ(archiver.Add(kArchive, {u"C:\\c\\UNO.TXT"}), ZipResult::Done);
   EXPECT_THAT(EntriesOf(Bytes()), ElementsAre(Pair("UNO.TXT", "otro"), Pair("dos.txt", "dos")));
+}
+
+TEST_F(ZipArchives, AnEntryIsReplacedWhateverTheCaseOfItsLettersBeyondAscii) {
+  files.contents[u"C:\\a\\Peña·€.pdf"] = "uno";
+  files.contents[u"C:\\c\\PEÑA·€.PDF"] = "otro";
+  ASSERT_EQ(archiver.Add(kArchive, {u"C:\\a\\Peña·€.pdf"}), ZipResult::Done);
+  ASSERT_EQ(archiver.Add(kArchive, {u"C:\\c\\PEÑA·€.PDF"}), ZipResult::Done);
+  EXPECT_THAT(EntriesOf(Bytes()), ElementsAre(Pair(runtime::ToUtf8(u"PEÑA·€.PDF"), "otro")));
 }
 
 TEST_F(ZipArchives, OfTwoFilesOfTheSameNameTheLaterOneIsKept) {

@@ -26,11 +26,15 @@ inline HWND FocusOf(HWND dialog) {
   return info.hwndFocus;
 }
 
-// Presses the key where the focus is and waits until the focus has left.
+// Presses the key where the focus is and waits until it is elsewhere; on its way it is nowhere for a moment.
 inline void PressAndMoveOn(HWND dialog, WPARAM key) {
   const HWND before = FocusOf(dialog);
   WindowDriver::Press(before, key);
-  for (int attempt = 0; attempt < 400 && FocusOf(dialog) == before; ++attempt) Sleep(5);
+  for (int attempt = 0; attempt < 400; ++attempt) {
+    const HWND now = FocusOf(dialog);
+    if (now && now != before) return;
+    Sleep(5);
+  }
 }
 
 inline std::vector<std::u16string> ItemsOf(HWND list) {

@@ -1,9 +1,7 @@
-// archive_kills add ARCHIVE FOLDER      packs two files into the archive for ever, one of them in turn large
-//                                       and small
-// archive_kills drive COUNT ARCHIVE FOLDER  starts and kills such a host COUNT times; the archive must always
-// be
-//                                       whole, with one or the other
-// Prints how often a host died in the middle of a swap (a file of its own was left beside).
+// archive_kills add ARCHIVE FOLDER          packs two files into the archive for ever, one of them in turn
+//                                           large and small
+// archive_kills drive COUNT ARCHIVE FOLDER  kills such a host COUNT times; the archive must always be whole,
+//                                           with one or the other
 
 #include <windows.h>
 #include <zip.h>
@@ -17,6 +15,7 @@
 #include "platform/win32/wide.h"
 #include "platform/zip_archiver.h"
 #include "runtime/error.h"
+#include "tests/wine/killed_hosts.h"
 
 namespace {
 
@@ -53,7 +52,7 @@ std::string EntryOf(zip_t* archive, const char* name) {
   if (zip_stat(archive, name, 0, &status) != 0) return "(not there)";
   zip_file_t* file = zip_fopen(archive, name, 0);
   if (!file) return "(cannot be opened)";
-  std::string content(status.size, '\0');
+  std::string content(static_cast<std::size_t>(status.size), '\0');
   const zip_int64_t read = zip_fread(file, content.data(), content.size());
   const bool whole = zip_fclose(file) == 0 && read == static_cast<zip_int64_t>(content.size());
   return whole ? content : "(damaged)";
@@ -77,40 +76,6 @@ const char* Flaw(const std::u16string& path, const std::string& large) {
   return two && fixed == kFixed && (changing == large || changing == kSmall) ? nullptr : "it is a mixture";
 }
 
-// Deletes what killed hosts left beside the archive.
-int Sweep(const std::u16string& path) {
-  int count = 0;
-  WIN32_FIND_DATAW found;
-  const HANDLE search = FindFirstFileW(Wide(path + u".*.tmp"), &found);
-  if (search == INVALID_HANDLE_VALUE) return 0;
-  const std::u16string folder = path.substr(0, path.rfind(u'\\') + 1);
-  do {
-    if (DeleteFileW(Wide(folder + Text(found.cFileName)))) ++count;
-  } while (FindNextFileW(search, &found));
-  FindClose(search);
-  return count;
-}
-
-// Starts a host, lets it pack for some milliseconds, kills it. False when it ended by itself.
-bool Kill(const std::u16string& archive, const std::u16string& folder, DWORD milliseconds) {
-  std::u16string self(MAX_PATH * 2, u'\0');
-  self.resize(GetModuleFileNameW(nullptr, qm::platform::win32::WideBuffer(self), MAX_PATH * 2));
-  std::u16string command = u"\"" + self + u"\" add \"" + archive + u"\" \"" + folder + u"\"";
-  STARTUPINFOW startup{};
-  startup.cb = sizeof startup;
-  PROCESS_INFORMATION host{};
-  if (!CreateProcessW(nullptr, qm::platform::win32::WideBuffer(command), nullptr, nullptr, FALSE, 0, nullptr,
-                      nullptr, &startup, &host)) {
-    return false;
-  }
-  const bool alive = WaitForSingleObject(host.hProcess, milliseconds) == WAIT_TIMEOUT;
-  TerminateProcess(host.hProcess, 99);
-  WaitForSingleObject(host.hProcess, INFINITE);
-  CloseHandle(host.hThread);
-  CloseHandle(host.hProcess);
-  return alive;
-}
-
 void Prepare(const std::u16string& archive, const std::u16string& folder, const std::string& large) {
   Win32Files files;
   for (const char16_t* name : {u"", u"\\grande", u"\\chico"}) CreateDirectoryW(Wide(folder + name), nullptr);
@@ -124,22 +89,8 @@ void Prepare(const std::u16string& archive, const std::u16string& folder, const 
 int Drive(int count, const std::u16string& archive, const std::u16string& folder) {
   const std::string large = Large();
   Prepare(archive, folder, large);
-  int inTheMiddle = 0;
-  std::srand(GetTickCount());
-  for (int i = 0; i < count; ++i) {
-    if (!Kill(archive, folder, static_cast<DWORD>(60 + std::rand() % 100))) {
-      std::printf("host %d ended by itself\n", i + 1);
-      return 1;
-    }
-    if (const char* flaw = Flaw(archive, large)) {
-      std::printf("after kill %d: %s\n", i + 1, flaw);
-      return 1;
-    }
-    if (Sweep(archive) > 0) ++inTheMiddle;
-  }
-  std::printf("%d kills, %d of them in the middle of a swap: the archive was always whole\n", count,
-              inTheMiddle);
-  return inTheMiddle > 0 ? 0 : 1;
+  return qm::tests::KillHosts(count, archive, u"add \"" + archive + u"\" \"" + folder + u"\"", 100,
+                              [&] { return Flaw(archive, large); });
 }
 
 }  // namespace

@@ -113,6 +113,11 @@ job.NumeroModelo = 1;
 job.AsignarCampo("Cliente", "Mu\u00F1oz");
 job.EmailTema = "Documento";
 expect("EmailModelo", "none", errorOf(function () { job.EmailModelo(folder, "", "Factura n\u00BA 1.pdf"); }));
+shell.CurrentDirectory = folder;
+job.EmailTema = "Relativo";
+expect("EmailModelo in a folder of the current one", "none",
+       errorOf(function () { job.EmailModelo("salida\\", "", "aviso.pdf"); }));
+expect("a device as the document", 52, parseInt(errorOf(function () { job.EmailModelo(folder, "", "CON.pdf"); }), 10));
 job.EmailTema = "Archivo";
 expect("EmailModelo ZIP", "none", errorOf(function () { job.EmailModelo(folder, "", "factura.zip"); }));
 job.NumeroModelo = 9;

@@ -16,11 +16,11 @@ expect_good_run cscript //nologo "$(windows_path "$here/correo.js")" "$(windows_
 expect_good_run cscript //nologo "$(windows_path "$here/perfiles.vbs")"
 "$here/read_back.py" "$QM_SCRATCH"
 
-# Five messages, five starts, hidden; the outgoing folder is the one argument.
-expect_starts 5
+# Six messages, six starts, hidden; the outgoing folder is the one argument.
+expect_starts 6
 program="C:\\${common#*/drive_c/}"
 program="\"${program//\//\\}\\Qmenviar.exe\""
-for outgoing in "espera 2" "trabajos 3"; do
+for outgoing in "espera 2" "trabajos 4"; do
   read -r name count <<<"$outgoing"
   line="$program \"$(windows_path "$QM_SCRATCH/$name")\\\"|0|"
   expect_equal "starts with $name" "$count" "$(grep -cF -- "$line" "$log" || true)"

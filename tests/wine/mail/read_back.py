@@ -114,6 +114,10 @@ def check_print_jobs(folder):
     text = subprocess.run(["pdftotext", pdf, "-"], capture_output=True, text=True)
     expect("text of the PDF", "Muñoz", text.stdout.strip())
 
+    relative = Message(folder, "trabajos", "Relativo·José·")
+    expect("entries from a folder of the current one", ["EMAIL.TXT", "EMAIL.HTM", "LOGO A.GIF", "aviso.pdf"],
+           relative.names())
+
     packed = Message(folder, "trabajos", "Archivo·José·")
     expect("archive's entries", ["EMAIL.TXT", "EMAIL.HTM", "LOGO A.GIF", "factura.zip"], packed.names())
 
@@ -127,7 +131,7 @@ def main():
     check_profile_message(folder)
     check_hostile_message(folder)
     check_print_jobs(folder)
-    expect("archives", 5, len(glob.glob(os.path.join(folder, "*", "Bandeja de Salida", "*"))))
+    expect("archives", 6, len(glob.glob(os.path.join(folder, "*", "Bandeja de Salida", "*"))))
     for failure in failures:
         print("FAILED:", failure, file=sys.stderr)
     return 1 if failures else 0
