@@ -145,6 +145,20 @@ TEST(MouseOnTheCanvas, ADoubleClickOnAHandleUponAnotherFieldDragsTheHandle) {
   EXPECT_THAT(world.Kept(), HasSubstr(PlaceOf(1500, 1500) + SizeOf(2100, 300)));
 }
 
+TEST(MouseOnTheCanvas, ADoubleClickOnTheLogoAsksForItsSize) {
+  WindowWorld world;
+  world.Keep(ModelFile("", " ImagenLogo=\"logo.bmp|1500|1500|1134|567\""));
+  world.dialogs.properties = {std::vector<std::u16string>{u"3", u"1", u"0", u""}};
+  EXPECT_TRUE(Visit(world, [&](Clerk& clerk) {
+    clerk.ClickAt(1800, 1650);
+    SendMessageW(clerk.Page(), WM_LBUTTONDBLCLK, MK_LBUTTON, Clerk::At(1800, 1650));
+    clerk.Click(kGrabar);
+  }));
+  ASSERT_THAT(world.dialogs.askedProperties, SizeIs(1));
+  EXPECT_EQ(world.dialogs.askedProperties[0].title, u"Cambiar Tamaño");
+  EXPECT_THAT(world.Kept(), HasSubstr("ImagenLogo=\"logo.bmp|1500|1500|1701|567\""));
+}
+
 TEST(MouseOnTheCanvas, LosingTheMouseLeavesTheFieldWhereItIs) {
   OneField world;
   EXPECT_TRUE(Visit(world, [&](Clerk& clerk) {
