@@ -145,6 +145,13 @@ bool Canvas::LogoAt(platform::Point at) const {
   return layout.logo && Contains(layout.logo->box, at);
 }
 
+std::u16string Canvas::ToolTipAt(platform::Point at) const {
+  const std::optional<HandleBoxes> handles = Handles();
+  if (drag_ || (handles && HandleAt(*handles, at) != 0)) return {};
+  const Field* field = document_.Current().At(FieldAt(at));
+  return field != nullptr ? field->caption : std::u16string();
+}
+
 void Canvas::ArrowKey(Direction direction, Modifiers modifiers, bool repeated) {
   const Box* selected = SelectedBox();
   if (drag_ || selected == nullptr) return;

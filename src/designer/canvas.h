@@ -5,6 +5,7 @@
 
 #include <algorithm>
 #include <optional>
+#include <string>
 #include <vector>
 
 #include "designer/document.h"
@@ -41,6 +42,9 @@ class Canvas {
   // What lies there: a field's index, or 0. The highest index lies on top, and all fields above the logo.
   [[nodiscard]] int FieldAt(platform::Point at) const;
   [[nodiscard]] bool LogoAt(platform::Point at) const;
+  // The ToolTipText there: the whole caption of a field, of which its box may show a part; empty elsewhere,
+  // on a handle and during a drag.
+  [[nodiscard]] std::u16string ToolTipAt(platform::Point at) const;
 
   // Moves the selected field or logo by 15 or, with Ctrl, by 1; with Shift it sizes it. A key held down,
   // which is what repeated says, is one step of undo.

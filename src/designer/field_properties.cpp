@@ -16,7 +16,6 @@ constexpr std::u16string_view kSampleText = u"Hello";
 constexpr char16_t kFixedText = u'#';
 constexpr int kMostDecimals = 6;
 constexpr double kLargestFont = 2160;  // points
-constexpr double kFurthest = 1e6;      // twips; beyond it a number is a slip of the hand
 
 constexpr float Box::*kBoxMembers[] = {&Box::left, &Box::top, &Box::width, &Box::height};
 

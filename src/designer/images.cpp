@@ -34,7 +34,7 @@ bool IsAbsolute(std::u16string_view path) {
 // A length that the user left alone keeps its digits beyond those shown.
 float LengthFrom(std::u16string_view text, float former, const runtime::Locale& locale) {
   if (text == runtime::ToText(former / kTwipsPerCm, locale)) return former;
-  return std::max(0.0F, static_cast<float>(text::ParseCentimetres(text, locale)) * kTwipsPerCm);
+  return static_cast<float>(std::clamp(text::ParseCentimetres(text, locale) * kTwipsPerCm, 0.0, kFurthest));
 }
 
 }  // namespace

@@ -3,7 +3,6 @@
 // "TALVO\Modelos\<its name>-<a hash of its path>.xml", the same bytes.
 // Errors: keeping one fails quietly, since nothing may depend on it; restoring has those of platform/files.h.
 
-#include <optional>
 #include <string>
 #include <string_view>
 

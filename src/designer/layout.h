@@ -13,6 +13,8 @@
 namespace qm::designer {
 
 inline constexpr float kTwipsPerCm = 567;  // exactly, in both directions
+// Of what is typed: beyond it a number is a slip of the hand.
+inline constexpr double kFurthest = 1e6;
 
 struct Box {
   float left = 0;

@@ -97,6 +97,8 @@ std::optional<ChosenPage> PaperChooser::SpecialSize(std::u16string_view device) 
       .code = 0, .formName = name, .widthTwips = width * kTwipsPerCm, .heightTwips = height * kTwipsPerCm};
   if (environment_.print.spooler.SupportsForms())
     paper.code = FormsOf(environment_.print).PaperCodeForSize(device, width, height, name);
+  // A form of that name that could be neither deleted nor made may have any size.
+  if (environment_.print.paperForms.lastError != 0) paper.code = 0;
   return PageOf(device, paper);
 }
 

@@ -7,21 +7,14 @@
 #include <vector>
 
 #include "designer/modelo_print.h"
-#include "tests/fakes/fake_folders.h"
+#include "tests/designer/designing_world.h"
 #include "tests/fakes/fake_view.h"
-#include "tests/fakes/recorded_processes.h"
-#include "tests/fakes/scripted_dialogs.h"
-#include "tests/print/printing_world.h"
 
 namespace qm::designer {
 
-struct DesignerWorld : print::PrintingWorld {
-  fakes::ScriptedDialogs dialogs;
-  fakes::FakeFolders folders;
-  fakes::RecordedProcesses processes;
+struct DesignerWorld : DesigningWorld {
   fakes::FakeView view;
   data::PickerMenus menus;
-  Environment world{environment, dialogs, folders, processes};
   std::unique_ptr<ModeloPrint> window;
 
   // Opens the window on that model; the former one is gone without a prompt.

@@ -31,7 +31,7 @@ struct Pictures : testing::Test, DesigningWorld {
   }
 
   Document document;
-  Images images{environment, document};
+  Images images{world, document};
 
   [[nodiscard]] const Layout& Now() const { return document.Current(); }
   void InsertaImagen(std::u16string path) {
@@ -269,10 +269,12 @@ TEST_F(LogoOfAModel, AcceptedAsItIsStaysExactlyAsItIs) {
   EXPECT_FALSE(document.Modified());
 }
 
-TEST_F(LogoOfAModel, TakesNoNegativeSize) {
+TEST_F(LogoOfAModel, TakesNoNegativeOrEndlessSize) {
   Logotipo(kOwnFile);
   SizeLogo({u"-2", u"nada", u"0", u""});
   EXPECT_EQ(Now().logo->box, (Box{567, 567, 0, 0}));
+  SizeLogo({u"1e300", u"49.9", u"0", u""});
+  EXPECT_EQ(Now().logo->box, (Box{567, 567, 1e6F, 28293.3F}));
 }
 
 TEST_F(LogoOfAModel, TakesANewFileIntoTheSizeGiven) {

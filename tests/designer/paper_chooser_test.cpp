@@ -23,6 +23,7 @@ const Told kRefused{Icon::Critical, u"Tamaño de papel no válido para su impres
 
 struct PaperChoice : testing::Test, DesigningWorld {
   PaperChoice() {
+    spooler.supportsForms = true;
     spooler.AddPrinter(kPrinter, {u"Carta", u"A4", u"A3", u"Sobre, pequeño"});
     printers.papers[kPrinter] = {{1, {12240, 15840}}, {2, {11906, 16838}}, {4, {6000, 3000}}};
   }
@@ -30,7 +31,7 @@ struct PaperChoice : testing::Test, DesigningWorld {
   [[nodiscard]] std::optional<ChosenPage> Choose(std::u16string answer,
                                                  std::u16string_view printer = kPrinter) {
     dialogs.texts = {std::move(answer)};
-    return PaperChooser(environment).LoadPapersizes(printer);
+    return PaperChooser(world).LoadPapersizes(printer);
   }
   [[nodiscard]] std::optional<ChosenPage> ChooseSpecial(Texts answers) {
     dialogs.properties = {std::move(answers)};
@@ -78,7 +79,7 @@ TEST_F(PaperChoice, NothingAnsweredChangesNothing) {
 
 TEST_F(PaperChoice, TheReceiptHasExactlyItsTextsWhateverTheFormsAndSettings) {
   for (const runtime::Locale& locale : {runtime::Locale::Spanish(), runtime::Locale::English()}) {
-    printing.locale = locale;
+    environment.locale = locale;
     for (const char16_t* printer : {u"Impresora A4", u"Impresora Recibos"})
       EXPECT_EQ(Choose(u"Recibos Estándar", printer), (ChosenPage{u"20", u"10,15873", 20.0F, 10.15873F}));
   }
@@ -134,7 +135,7 @@ TEST_F(PaperChoice, ASpecialSizeBecomesAFormOfThePrinter) {
 
 TEST_F(PaperChoice, CentimetresAreReadWithAPointOrACommaInEveryLocale) {
   for (const runtime::Locale& locale : {runtime::Locale::Spanish(), runtime::Locale::English()}) {
-    printing.locale = locale;
+    environment.locale = locale;
     (void)ChooseSpecial({u"Especial", u"12,5", u"7.25"});
     EXPECT_EQ(spooler.printers[kPrinter].back().form.width, 125000);
     EXPECT_EQ(spooler.printers[kPrinter].back().form.height, 72500);
@@ -163,6 +164,17 @@ TEST_F(PaperChoice, WhereTheFormCannotBeMadeThePrinterTakesTheSizeIfItCan) {
   EXPECT_EQ(printers.papersAsked.back().code, 0);
   EXPECT_EQ(printers.papersAsked.back().widthTwips, 5670);
   EXPECT_EQ(printers.papersAsked.back().heightTwips, 2835);
+}
+
+TEST_F(PaperChoice, AnotherFormOfThatNameNeverStandsForTheSizeAsked) {
+  EXPECT_EQ(ChooseSpecial({u"Carta", u"10", u"5"}), std::nullopt);  // the first form is never replaced
+  EXPECT_THAT(dialogs.told, ElementsAre(kRefused));
+
+  spooler.deleteError = 5;
+  spooler.addError = 80;
+  printers.papers[kPrinter][0] = {5670, 2835};
+  EXPECT_EQ(ChooseSpecial({u"A4", u"10", u"5"}), (ChosenPage{u"10", u"5", 10, 5}));
+  EXPECT_EQ(printers.papersAsked.back().formName, u"A4");
 }
 
 TEST_F(PaperChoice, ASpecialSizeThatIsNoneIsToldAndMakesNoForm) {

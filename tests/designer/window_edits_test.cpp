@@ -104,6 +104,20 @@ TEST_F(EditingAModel, TheStandardReceiptSetsBothBoxesInOneStep) {
   EXPECT_TRUE(IsOneStepFrom(before));
 }
 
+TEST_F(EditingAModel, APaperOfHalfAMetreOrMoreFallsBackWithTheMessageForEachSide) {
+  spooler.supportsForms = true;
+  spooler.AddPrinter(u"Impresora A4", {u"Rollo"});
+  printers.papers[u"Impresora A4"] = {{1, {56700, 34020}}};
+  dialogs.texts = {u"Rollo"};
+  const Layout before = Now();
+  window->ElegirPapel_Click();
+  EXPECT_THAT(Told(), ElementsAre(u"Tamaño exesivo", u"Tamaño exesivo"));
+  EXPECT_EQ(Now().ancho, u"100");
+  EXPECT_EQ(Now().pageWidthCm, 20);
+  EXPECT_EQ(Now().pageHeightCm, 10);
+  EXPECT_TRUE(IsOneStepFrom(before));
+}
+
 TEST_F(EditingAModel, NoPaperChosenChangesNothing) {
   window->ElegirPapel_Click();
   EXPECT_FALSE(Doc().Modified());
@@ -143,6 +157,33 @@ TEST_F(EditingAModel, AFixedTextIsTypedAndStaysOne) {
     EXPECT_THAT(asked.choices, IsEmpty());
     EXPECT_EQ(asked.defaultAnswer, u"");
   }
+}
+
+TEST_F(EditingAModel, AFieldsToolTipIsItsCaption) {
+  Canvas& canvas = window->TheCanvas();
+  dialogs.texts = {u"Le atendió"};
+  window->CREAR_NEW_Campo(u"#");
+  const Box box = Now().At(4)->box;
+  const platform::Point inside{box.left + 10, box.top + 10};
+  EXPECT_EQ(canvas.ToolTipAt(inside), u"#Le atendió");
+  EXPECT_EQ(canvas.ToolTipAt({box.left - 10, box.top + 10}), u"");
+  canvas.ShowHandlesOf(4);
+  EXPECT_EQ(canvas.ToolTipAt(inside), u"#Le atendió");
+  canvas.Press(inside, Button::Left);
+  EXPECT_EQ(canvas.ToolTipAt(inside), u"") << "amid a drag";
+}
+
+TEST_F(EditingAModel, NoToolTipOfAFieldThatLiesBelowAHandle) {
+  Doc().Adjust([](Layout& layout) {
+    for (const int index : {1, 2})
+      ChangeField(layout, index, [index](Field& field) {
+        field.box = {1000.0F * static_cast<float>(index), 1000, 1000, 300};
+      });
+  });
+  const platform::Point onTheHandle{2010, 1150};  // of the right edge of the first, upon the second
+  EXPECT_EQ(window->TheCanvas().ToolTipAt(onTheHandle), u"DOS");
+  window->TheCanvas().ShowHandlesOf(1);
+  EXPECT_EQ(window->TheCanvas().ToolTipAt(onTheHandle), u"");
 }
 
 TEST_F(EditingAModel, AFixedTextLeftEmptyIsAFieldOfItsSignAlone) {
@@ -216,6 +257,20 @@ TEST_F(EditingAModel, PropertiesOfTheSelectedFieldAreShownAndAppliedInOneStep) {
   window->V_Propiedades_Click();
   EXPECT_EQ(Now().At(1)->box.left, 1000);
   EXPECT_TRUE(IsOneStepFrom(before));
+}
+
+TEST_F(EditingAModel, FontsAreThoseOfTheModelsPrinterAndOfTheDefaultOneWhereItIsNotInstalled) {
+  printers.fonts[u"Impresora A4"] = {u"Sistema", u"Arial"};
+  printers.fonts[u"Impresora Recibos"] = {u"Sistema", u"Roman12"};
+  printers.defaultName = u"Impresora Recibos";
+  std::vector<std::u16string> fonts;
+  view.whileProperties = [&](FieldProperties& properties) { fonts = properties.FuenList().entries; };
+  Doc().Select(1);
+  window->V_Propiedades_Click();
+  EXPECT_THAT(fonts, ElementsAre(u"Arial"));
+  Doc().Adjust([](Layout& layout) { layout.printer = u"De otra oficina"; });
+  window->V_Propiedades_Click();
+  EXPECT_THAT(fonts, ElementsAre(u"Roman12"));
 }
 
 TEST_F(EditingAModel, RemovingTheBackgroundIsOneStep) {

@@ -31,6 +31,7 @@ PageView::PageView(ModeloPrint& presenter, const Environment& environment, HWND 
           .classStyle = CS_DBLCLKS,
           .parent = parent,
           .id = id});
+  tip_.Create(Handle());
 }
 
 void PageView::SetDpi(int dpi) {
@@ -175,6 +176,7 @@ void PageView::FollowMarks() {
 
 void PageView::PlaceChanged() {
   RememberTransform();
+  tip_.Follow({}, {});  // until the mouse moves on the page as it lies now
   FollowMarks();
   InvalidateRect(Handle(), nullptr, FALSE);
 }

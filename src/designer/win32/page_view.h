@@ -8,6 +8,7 @@
 #include <utility>
 
 #include "designer/modelo_print.h"
+#include "designer/win32/field_tip.h"
 #include "designer/win32/page_painter.h"
 #include "designer/win32/tile_cache.h"
 #include "designer/win32/window.h"
@@ -81,10 +82,12 @@ class PageView final : public Window {
   void FollowMarks();
   void FieldsChanged(const Layout& before, const Layout& after);
   void MouseMovedOrKeyChanged();
+  void FollowToolTip(platform::Point mouse);
   void RememberTransform();
 
   ModeloPrint& presenter_;
   int dpi_;
+  FieldTip tip_;
   PagePainter painter_;
   TileCache tiles_;
   std::unique_ptr<Bitmap32> buffer_;

@@ -60,6 +60,8 @@ Answer PageView::OnLeftDown(WPARAM, LPARAM parameter) {
 
 Answer PageView::OnLeftDoubleClick(WPARAM wide, LPARAM parameter) {
   const platform::Point at = ToPage(PointOf(parameter));
+  const bool onHandle = TheCanvas().PointerAt(at) != Pointer::Arrow;  // above whatever lies there
+  if (onHandle) return OnLeftDown(wide, parameter);
   if (TheCanvas().FieldAt(at) != 0) {
     presenter_.V_Propiedades_Click();
   } else if (TheCanvas().LogoAt(at)) {
@@ -83,8 +85,16 @@ Answer PageView::OnRightDown(WPARAM, LPARAM parameter) {
 }
 
 Answer PageView::OnMouseMove(WPARAM wide, LPARAM parameter) {
-  TheCanvas().Move(ToPage(PointOf(parameter)), (wide & MK_LBUTTON) != 0, PressedModifiers());
+  const platform::Point mouse = ToPage(PointOf(parameter));
+  TheCanvas().Move(mouse, (wide & MK_LBUTTON) != 0, PressedModifiers());
+  FollowToolTip(mouse);
   return 0;
+}
+
+void PageView::FollowToolTip(platform::Point mouse) {
+  const std::u16string text = TheCanvas().ToolTipAt(mouse);
+  const Field* field = text.empty() ? nullptr : Current().At(TheCanvas().FieldAt(mouse));
+  tip_.Follow(text, field != nullptr ? ToView(painter_.Transform().PixelsOf(field->box)) : RECT{});
 }
 
 // Something came between, another window for example: what was dragged stays where it is.

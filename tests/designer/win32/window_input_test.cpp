@@ -2,6 +2,8 @@
 
 #include "tests/designer/win32/clerk.h"
 
+#include <commctrl.h>
+
 namespace qm::designer::win32 {
 namespace {
 
@@ -47,6 +49,50 @@ TEST(MouseOnTheCanvas, SizesAFieldByTheHandleOfItsRightEdge) {
   EXPECT_THAT(world.Kept(), HasSubstr(PlaceOf(1500, 1500) + SizeOf(2100, 300)));
 }
 
+struct Tip {
+  std::wstring text;
+  RECT area{};
+};
+
+// Of the page, as the system's control for tool tips holds it.
+Tip TipOf(const Clerk& clerk) {
+  Tip tip;
+  for (HWND tips = nullptr; (tips = FindWindowExW(nullptr, tips, TOOLTIPS_CLASSW, nullptr)) != nullptr;) {
+    wchar_t text[80] = L"";
+    TTTOOLINFOW tool{};
+    tool.cbSize = TTTOOLINFOW_V1_SIZE;
+    tool.hwnd = clerk.Page();
+    tool.uId = 1;
+    tool.lpszText = text;
+    if (GetWindowThreadProcessId(tips, nullptr) != clerk.HostThread() ||
+        !SendMessageW(tips, TTM_GETTOOLINFOW, 0, reinterpret_cast<LPARAM>(&tool)))
+      continue;
+    SendMessageW(tips, TTM_GETTEXTW, 0, reinterpret_cast<LPARAM>(&tool));
+    tip = {text, tool.rect};
+  }
+  return tip;
+}
+
+TEST(MouseOnTheCanvas, OverAFieldHasItsCaptionAsToolTip) {
+  OneField world;
+  Tip over, beside, dragged;
+  EXPECT_TRUE(Visit(world, [&](Clerk& clerk) {
+    SendMessageW(clerk.Page(), WM_MOUSEMOVE, 0, Clerk::At(1800, 1650));
+    over = TipOf(clerk);
+    clerk.Press(1800, 1650);
+    clerk.Move(2250, 2700);
+    dragged = TipOf(clerk);
+    clerk.Release(2250, 2700);
+    SendMessageW(clerk.Page(), WM_MOUSEMOVE, 0, Clerk::At(300, 300));
+    beside = TipOf(clerk);
+  }));
+  EXPECT_EQ(over.text, L"NOMBRE");
+  EXPECT_EQ(over.area.left, PageView::kMargin + 100);
+  EXPECT_EQ(over.area.bottom, PageView::kMargin + 120);
+  EXPECT_EQ(dragged.text, L"");
+  EXPECT_EQ(beside.text, L"");
+}
+
 TEST(MouseOnTheCanvas, APressAloneCountsAsAChange) {
   OneField world;
   EXPECT_TRUE(Visit(world, [&](Clerk& clerk) { clerk.ClickAt(1800, 1650); }));
@@ -84,6 +130,33 @@ TEST(MouseOnTheCanvas, ADoubleClickOpensThePropertiesOfTheField) {
     EXPECT_TRUE(Clerk::Until([&] { return !IsWindow(dialog); }));
     EXPECT_TRUE(IsWindowEnabled(clerk.Form()));
   }));
+}
+
+TEST(MouseOnTheCanvas, ADoubleClickOnAHandleUponAnotherFieldDragsTheHandle) {
+  WindowWorld world;
+  world.Keep(ModelFile(Campo("UNO", 1500, 1500, 1500, 300) + Campo("DOS", 3000, 1500, 1500, 300)));
+  EXPECT_TRUE(Visit(world, [&](Clerk& clerk) {
+    clerk.ClickAt(1800, 1650);
+    SendMessageW(clerk.Page(), WM_LBUTTONDBLCLK, MK_LBUTTON, Clerk::At(3045, 1650));
+    clerk.Move(3645, 1650);
+    clerk.Release(3645, 1650);
+    clerk.Click(kGrabar);
+  }));
+  EXPECT_THAT(world.Kept(), HasSubstr(PlaceOf(1500, 1500) + SizeOf(2100, 300)));
+}
+
+TEST(MouseOnTheCanvas, ADoubleClickOnTheLogoAsksForItsSize) {
+  WindowWorld world;
+  world.Keep(ModelFile("", " ImagenLogo=\"logo.bmp|1500|1500|1134|567\""));
+  world.dialogs.properties = {std::vector<std::u16string>{u"3", u"1", u"0", u""}};
+  EXPECT_TRUE(Visit(world, [&](Clerk& clerk) {
+    clerk.ClickAt(1800, 1650);
+    SendMessageW(clerk.Page(), WM_LBUTTONDBLCLK, MK_LBUTTON, Clerk::At(1800, 1650));
+    clerk.Click(kGrabar);
+  }));
+  ASSERT_THAT(world.dialogs.askedProperties, SizeIs(1));
+  EXPECT_EQ(world.dialogs.askedProperties[0].title, u"Cambiar Tamaño");
+  EXPECT_THAT(world.Kept(), HasSubstr("ImagenLogo=\"logo.bmp|1500|1500|1701|567\""));
 }
 
 TEST(MouseOnTheCanvas, LosingTheMouseLeavesTheFieldWhereItIs) {

@@ -228,8 +228,8 @@ TEST(DesignerToolbar, ImprimirPruebaPrintsOnTheChosenPrinter) {
     clerk.Pick(kImpresoras, 1);
     clerk.Click(kImprimirPrueba);
   }));
-  EXPECT_THAT(world.printerLog, HasSubstr("Impresora Recibos"));
-  EXPECT_THAT(world.printerLog, HasSubstr("NOMBRE"));
+  EXPECT_THAT(world.log, HasSubstr("Impresora Recibos"));
+  EXPECT_THAT(world.log, HasSubstr("NOMBRE"));
 }
 
 TEST(DesignerToolbar, BothPaperButtonsAskForThePaper) {

@@ -38,7 +38,11 @@ class PicturesFromMemory : public platform::Pictures {
 };
 
 struct WindowWorld : DesigningWorld {
-  WindowWorld() { files.contents[std::u16string(kModels)] = ""; }
+  WindowWorld() {
+    modelFile.SetName(kModels);
+    files.contents[std::u16string(kModels)] = "";
+    spooler.supportsForms = true;
+  }
 
   static constexpr std::u16string_view kModels = u"C:\\Modelos\\facturas.xml";
 
