@@ -91,13 +91,23 @@ from_nothing() {
   own_user_folders
 }
 
+# own_copy FILE...: files of the plain prefix, at the same places in this one.
+own_copy() {
+  local file
+  for file in "$@"; do
+    rm -rf "$prefix${file#"$plain"}"
+    cp -a "$file" "$prefix${file#"$plain"}"
+  done
+}
+
 # A variant of the plain prefix: Windows' own files by hard link, the rest copied, the registry as first made.
 from_plain() {
   mkdir -p "$prefix/drive_c"
   cp -a "$plain/dosdevices" "$plain/.update-timestamp" "$prefix/"
   cp -al "$plain/drive_c/windows" "$prefix/drive_c/"
-  rm -f "$prefix"/drive_c/windows/*.ini
-  cp -a "$plain"/drive_c/windows/*.ini "$prefix/drive_c/windows/"
+  # What programs write there is a copy of its own; a printer's files are written when it is installed.
+  own_copy "$plain"/drive_c/windows/*.ini
+  own_copy "$plain"/drive_c/windows/system32/spool
   find "$plain/drive_c" -mindepth 1 -maxdepth 1 ! -name windows -exec cp -a {} "$prefix/drive_c/" \;
   cp "$plain"/qm-pristine/*.reg "$prefix/"
 }
