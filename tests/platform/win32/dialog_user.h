@@ -76,6 +76,12 @@ inline bool IsGroup(HWND control) {
          (GetWindowLongPtrW(control, GWL_STYLE) & BS_TYPEMASK) == BS_GROUPBOX;
 }
 
+// An icon stands where the text would.
+inline bool ShowsNoText(HWND button) {
+  const LONG_PTR style = GetWindowLongPtrW(button, GWL_STYLE);
+  return (style & BS_TYPEMASK) == BS_OWNERDRAW || (style & (BS_ICON | BS_BITMAP)) != 0;
+}
+
 // Controls that lie outside the dialog, over one another or cut their texts; empty when all is well.
 inline std::string FaultsOf(HWND dialog) {
   std::string faults;
@@ -95,7 +101,7 @@ inline std::string FaultsOf(HWND dialog) {
     const bool drawn = (GetWindowLongPtrW(controls[i], GWL_STYLE) & SS_TYPEMASK) == SS_OWNERDRAW;
     if (lstrcmpiW(name, L"Static") == 0 && !drawn && !WindowDriver::ShowsAllOf(controls[i]))
       faults += "cut: " + id + "\n";
-    if (lstrcmpiW(name, L"Button") == 0) {
+    if (lstrcmpiW(name, L"Button") == 0 && !ShowsNoText(controls[i])) {
       SIZE needed{};
       HDC dc = GetDC(controls[i]);
       const HGDIOBJ former =

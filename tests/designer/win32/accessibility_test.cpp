@@ -1,0 +1,142 @@
+// The designer for somebody who hears the screen and has no mouse.
+
+#include <gmock/gmock.h>
+
+#include <map>
+
+#include "tests/designer/win32/clerk.h"
+
+namespace qm::designer::win32 {
+namespace {
+
+using ::testing::ElementsAre;
+using ::testing::Pair;
+using ::testing::SizeIs;
+
+constexpr wchar_t kMenuClass[] = L"#32768";
+
+std::wstring ClassOf(HWND window) {
+  wchar_t name[40] = L"";
+  GetClassNameW(window, name, 40);
+  return name;
+}
+
+// What a screen reader tells: boxes and lists are named by the label that stands right before them, all else
+// by its own text.
+std::u16string NameOf(HWND control) {
+  const std::wstring kind = ClassOf(control);
+  if (kind != L"Edit" && kind != L"ComboBox") return WindowDriver::TextOf(control);
+  const HWND label = GetWindow(control, GW_HWNDPREV);
+  return label && ClassOf(label) == L"Static" ? WindowDriver::TextOf(label) : std::u16string();
+}
+
+TEST(NamesOfControls, TellWhatEveryControlThatTakesTheKeyboardIsFor) {
+  WindowWorld world;
+  std::map<int, std::u16string> names;
+  EXPECT_TRUE(Visit(world, [&](Clerk& clerk) {
+    for (HWND child = GetWindow(clerk.Form(), GW_CHILD); child; child = GetWindow(child, GW_HWNDNEXT))
+      if ((GetWindowLongPtrW(child, GWL_STYLE) & WS_TABSTOP) != 0) names[GetDlgCtrlID(child)] = NameOf(child);
+  }));
+  EXPECT_THAT(names, ::testing::UnorderedElementsAre(
+                         Pair(kGrabar, u"Grabar"), Pair(kImprimirPrueba, u"Imprimir prueba"),
+                         Pair(kTamañoPapel, u"Tamaño de Papel"), Pair(kModelos, u"Modelo"),
+                         Pair(kImpresoras, u"Impresora"), Pair(kAncho, u"Ancho"), Pair(kAlto, u"Alto"),
+                         Pair(kElegirPapel, u"Tipo de papel"), Pair(kListCopias, u"Copias"),
+                         Pair(kEsEtiqueta, u"Es Etiqueta"), Pair(kBasePin, u"Página del modelo")));
+}
+
+TEST(NamesOfControls, ThePaperButtonShowsItsDotsAndNotItsName) {
+  WindowWorld world;
+  LONG_PTR style = 0;
+  LRESULT dots = 0;
+  EXPECT_TRUE(Visit(world, [&](Clerk& clerk) {
+    style = GetWindowLongPtrW(clerk.Control(kElegirPapel), GWL_STYLE);
+    dots = SendMessageW(clerk.Control(kElegirPapel), BM_GETIMAGE, IMAGE_ICON, 0);
+  }));
+  EXPECT_NE(style & BS_ICON, 0);
+  EXPECT_NE(dots, 0);
+}
+
+// ---- Menus by the keyboard
+
+struct OneField : WindowWorld {
+  OneField() { Keep(ModelFile(Campo("NOMBRE", 1500, 1500, 1500, 300))); }
+};
+
+// The first entry of the menu that opens, which is closed again; a sub-menu is -1.
+int FirstOfTheMenu(const Clerk& clerk) {
+  const HWND popUp = clerk.WaitFor(kMenuClass, nullptr);
+  if (!popUp) return 0;
+  const auto menu = reinterpret_cast<HMENU>(SendMessageW(popUp, MN_GETHMENU, 0, 0));
+  const int first = static_cast<int>(GetMenuItemID(menu, 0));
+  SendMessageW(clerk.Form(), WM_CANCELMODE, 0, 0);
+  EXPECT_TRUE(Clerk::Until([&] { return !IsWindow(popUp) || !IsWindowVisible(popUp); }));
+  return first;
+}
+
+TEST(MenusByTheKeyboard, TheMenuKeyOpensEditarForASelectedFieldAndElseInsertar) {
+  OneField world;
+  std::vector<int> first;
+  EXPECT_TRUE(Visit(world, [&](Clerk& clerk) {
+    PostMessageW(clerk.Page(), WM_CONTEXTMENU, reinterpret_cast<WPARAM>(clerk.Page()), -1);
+    first.push_back(FirstOfTheMenu(clerk));
+    clerk.Key(VK_TAB);
+    PostMessageW(clerk.Page(), WM_CONTEXTMENU, reinterpret_cast<WPARAM>(clerk.Page()), -1);
+    first.push_back(FirstOfTheMenu(clerk));
+  }));
+  EXPECT_THAT(first, ElementsAre(-1, static_cast<int>(kEliminar)));
+  EXPECT_THAT(world.dialogs.askedConfirmations, SizeIs(0)) << "a menu alone is no change";
+}
+
+// The host thread's own keyboard, with Shift held down.
+class HeldShift {
+ public:
+  explicit HeldShift(const Clerk& clerk) : host_(clerk.HostThread()) {
+    AttachThreadInput(GetCurrentThreadId(), host_, TRUE);
+    Set(0x80);
+  }
+  HeldShift(const HeldShift&) = delete;
+  HeldShift& operator=(const HeldShift&) = delete;
+  ~HeldShift() {
+    Set(0);
+    AttachThreadInput(GetCurrentThreadId(), host_, FALSE);
+  }
+
+ private:
+  static void Set(BYTE state) {
+    BYTE keys[256]{};
+    GetKeyboardState(keys);
+    keys[VK_SHIFT] = keys[VK_LSHIFT] = state;
+    SetKeyboardState(keys);
+  }
+  DWORD host_;
+};
+
+TEST(MenusByTheKeyboard, ShiftF10OpensEditarForTheSelectedField) {
+  OneField world;
+  int first = 0;
+  EXPECT_TRUE(Visit(world, [&](Clerk& clerk) {
+    clerk.Key(VK_TAB);
+    const HeldShift shift(clerk);
+    PostMessageW(clerk.Page(), WM_SYSKEYDOWN, VK_F10, 1);
+    first = FirstOfTheMenu(clerk);
+  }));
+  EXPECT_EQ(first, kEliminar);
+}
+
+TEST(MenusByTheKeyboard, TheMenuMessageOfTheMouseOpensNoSecondMenu) {
+  OneField world;
+  bool opened = true;
+  EXPECT_TRUE(Visit(world, [&](Clerk& clerk) {
+    clerk.ClickAt(1800, 1650);
+    SendMessageW(clerk.Page(), WM_CONTEXTMENU, reinterpret_cast<WPARAM>(clerk.Page()), MAKELPARAM(300, 300));
+    GUITHREADINFO info{};
+    info.cbSize = sizeof info;
+    GetGUIThreadInfo(clerk.HostThread(), &info);
+    opened = (info.flags & GUI_INMENUMODE) != 0;
+  }));
+  EXPECT_FALSE(opened);
+}
+
+}  // namespace
+}  // namespace qm::designer::win32
