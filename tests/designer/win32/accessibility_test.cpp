@@ -45,16 +45,31 @@ TEST(NamesOfControls, TellWhatEveryControlThatTakesTheKeyboardIsFor) {
                          Pair(kEsEtiqueta, u"Es Etiqueta"), Pair(kBasePin, u"Página del modelo")));
 }
 
-TEST(NamesOfControls, ThePaperButtonShowsItsDotsAndNotItsName) {
+// The columns of a button, within its frame, in which something dark is painted: an x each, else a point.
+std::string InkOf(HWND button) {
+  RECT area{};
+  GetClientRect(button, &area);
+  Bitmap32 painted(WidthOf(area), HeightOf(area));
+  const platform::win32::OwnedDc dc(CreateCompatibleDC(nullptr));
+  const platform::win32::SelectedObject selected(dc.Get(), painted.Handle());
+  SendMessageW(button, WM_PRINTCLIENT, reinterpret_cast<WPARAM>(dc.Get()), PRF_CLIENT | PRF_ERASEBKGND);
+  GdiFlush();
+  constexpr int kFrame = 4;
+  std::string columns;
+  for (int x = kFrame; x < painted.Width() - kFrame; ++x) {
+    bool dark = false;
+    for (int y = kFrame; y < painted.Height() - kFrame; ++y)
+      dark = dark || (painted.Row(y)[x] >> 8 & 0xFF) < 100;
+    columns += dark ? 'x' : '.';
+  }
+  return columns;
+}
+
+TEST(NamesOfControls, ThePaperButtonShowsThreeDotsAndNotItsName) {
   WindowWorld world;
-  LONG_PTR style = 0;
-  LRESULT dots = 0;
-  EXPECT_TRUE(Visit(world, [&](Clerk& clerk) {
-    style = GetWindowLongPtrW(clerk.Control(kElegirPapel), GWL_STYLE);
-    dots = SendMessageW(clerk.Control(kElegirPapel), BM_GETIMAGE, IMAGE_ICON, 0);
-  }));
-  EXPECT_NE(style & BS_ICON, 0);
-  EXPECT_NE(dots, 0);
+  std::string ink;
+  EXPECT_TRUE(Visit(world, [&](Clerk& clerk) { ink = InkOf(clerk.Control(kElegirPapel)); }));
+  EXPECT_THAT(ink, ::testing::MatchesRegex("\\.+x+\\.+x+\\.+x+\\.+"));
 }
 
 // ---- Menus by the keyboard
