@@ -2,9 +2,8 @@
 
 #include <gmock/gmock.h>
 
-#include <map>
-
 #include "tests/designer/win32/clerk.h"
+#include "tests/platform/win32/dialog_user.h"
 
 namespace qm::designer::win32 {
 namespace {
@@ -15,28 +14,10 @@ using ::testing::SizeIs;
 
 constexpr wchar_t kMenuClass[] = L"#32768";
 
-std::wstring ClassOf(HWND window) {
-  wchar_t name[40] = L"";
-  GetClassNameW(window, name, 40);
-  return name;
-}
-
-// What a screen reader tells: boxes and lists are named by the label that stands right before them, all else
-// by its own text.
-std::u16string NameOf(HWND control) {
-  const std::wstring kind = ClassOf(control);
-  if (kind != L"Edit" && kind != L"ComboBox") return WindowDriver::TextOf(control);
-  const HWND label = GetWindow(control, GW_HWNDPREV);
-  return label && ClassOf(label) == L"Static" ? WindowDriver::TextOf(label) : std::u16string();
-}
-
 TEST(NamesOfControls, TellWhatEveryControlThatTakesTheKeyboardIsFor) {
   WindowWorld world;
   std::map<int, std::u16string> names;
-  EXPECT_TRUE(Visit(world, [&](Clerk& clerk) {
-    for (HWND child = GetWindow(clerk.Form(), GW_CHILD); child; child = GetWindow(child, GW_HWNDNEXT))
-      if ((GetWindowLongPtrW(child, GWL_STYLE) & WS_TABSTOP) != 0) names[GetDlgCtrlID(child)] = NameOf(child);
-  }));
+  EXPECT_TRUE(Visit(world, [&](Clerk& clerk) { names = platform::win32::NamesIn(clerk.Form()); }));
   EXPECT_THAT(names, ::testing::UnorderedElementsAre(
                          Pair(kGrabar, u"Grabar"), Pair(kImprimirPrueba, u"Imprimir prueba"),
                          Pair(kTamañoPapel, u"Tamaño de Papel"), Pair(kModelos, u"Modelo"),
