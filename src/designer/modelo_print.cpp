@@ -33,6 +33,23 @@ print::Environment WithModelFile(const print::Environment& environment, const mo
           environment.paperForms, environment.locale};
 }
 
+// The runtime's own words for it say nothing to a clerk.
+RuntimeError UnreadableModels() {
+  return {static_cast<int>(ErrorNumber::ObjectNotSet),
+          u"El archivo de modelos no se puede leer. No se grabará nada en él."};
+}
+
+// Reads or rewrites the model file.
+template <class Operation>
+auto WithReadableModels(Operation&& operation) {
+  try {
+    return operation();
+  } catch (const RuntimeError& error) {
+    if (error.Is(ErrorNumber::ObjectNotSet)) throw UnreadableModels();
+    throw;
+  }
+}
+
 // A list that cannot be had is an empty one.
 std::vector<std::u16string> DeviceNames(platform::Printers& printers) {
   try {
@@ -149,7 +166,7 @@ void ModeloPrint::CargarModelo(std::int16_t numero) {
 void ModeloPrint::Load(std::int16_t numero) {
   canvas_.HideHandles();
   document_.Start(WithoutContents(document_.Current()));
-  unread_ = RuntimeError(ErrorNumber::ObjectNotSet);  // until it is read
+  unread_ = UnreadableModels();  // until it is read
   std::optional<model::ModelTexts> texts;
   try {
     texts = FindModel(numero);
@@ -172,7 +189,7 @@ void ModeloPrint::Load(std::int16_t numero) {
 std::optional<model::ModelTexts> ModeloPrint::FindModel(std::int16_t numero) {
   MendFile();
   const std::string bytes = print_.files.Read(modelFile_.name).value_or(std::string());
-  auto found = model::ModelDocument::Parse(bytes).Find(numero);
+  auto found = WithReadableModels([&] { return model::ModelDocument::Parse(bytes).Find(numero); });
   lastCopy_.Keep(bytes);
   return found;
 }
@@ -195,8 +212,10 @@ void ModeloPrint::Save() {
   if (unread_) throw *unread_;
   MendFile();
   lastCopy_.KeepFile();
-  model::SaveModel(print_.files, modelFile_.name, ModelOf(document_.Current(), numero_, modelFile_.folder),
-                   print_.locale);
+  WithReadableModels([&] {
+    model::SaveModel(print_.files, modelFile_.name, ModelOf(document_.Current(), numero_, modelFile_.folder),
+                     print_.locale);
+  });
   document_.ClearModified();
   lastCopy_.KeepFile();
 }

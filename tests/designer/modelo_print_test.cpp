@@ -16,6 +16,9 @@ using ::testing::StartsWith;
 constexpr std::u16string_view kSavePrompt =
     u"Se ha modificado el modelo... ¿desea grabar las modificaciones?";
 
+constexpr std::u16string_view kUnreadable =
+    u"El archivo de modelos no se puede leer. No se grabará nada en él.";
+
 struct DesignerWindow : testing::Test, DesignerWorld {
   DesignerWindow() {
     SetFile(FileOf({ModelBytes(1, {"UNO", "DOS"}, "Printer=\"Impresora Recibos\" Copias=\"2\""),
@@ -253,7 +256,7 @@ TEST_F(DamagedModelFile, StaysAsItIsWhenTheUserDeclinesAndCannotBeSavedOver) {
   window->CREAR_NEW_Campo(u"NUEVO");
   window->Grabar();
   EXPECT_EQ(File(), "<Modelos><Modelo Num");
-  EXPECT_THAT(Told(), ElementsAre(runtime::DescriptionOf(91), runtime::DescriptionOf(91)));
+  EXPECT_THAT(Told(), ElementsAre(kUnreadable, kUnreadable));
   EXPECT_TRUE(Doc().Modified());
 }
 
@@ -261,7 +264,7 @@ TEST_F(DamagedModelFile, WithoutACopyIsToldAndLeftAlone) {
   std::erase_if(files.contents, [&](const auto& file) { return file.first != modelFile.name; });
   Open();
   EXPECT_THAT(dialogs.askedConfirmations, IsEmpty());
-  EXPECT_THAT(Told(), ElementsAre(runtime::DescriptionOf(91)));
+  EXPECT_THAT(Told(), ElementsAre(kUnreadable));
   EXPECT_EQ(File(), "<Modelos><Modelo Num");
 }
 
@@ -278,7 +281,7 @@ TEST_F(DesignerWindow, AFileDamagedMeanwhileIsMendedBeforeTheModelIsSavedIntoIt)
   window->CREAR_NEW_Campo(u"NUEVO");
   SetFile("<Modelos><Modelo Num");
   window->Grabar();
-  EXPECT_THAT(Told(), ElementsAre(runtime::DescriptionOf(91)));
+  EXPECT_THAT(Told(), ElementsAre(kUnreadable));
   EXPECT_EQ(File(), "<Modelos><Modelo Num");
   EXPECT_TRUE(Doc().Modified());
   dialogs.confirmations = {true};
@@ -300,7 +303,7 @@ TEST_F(DesignerWindow, AFileThatBeginsWithADeclarationIsNoDamagedOneAndIsNotSave
   window->CREAR_NEW_Campo(u"NUEVO");
   window->Grabar();
   EXPECT_THAT(dialogs.askedConfirmations, IsEmpty());
-  EXPECT_THAT(Told(), ElementsAre(runtime::DescriptionOf(91)));
+  EXPECT_THAT(Told(), ElementsAre(kUnreadable));
   EXPECT_EQ(File(), declared);
 }
 

@@ -4,7 +4,7 @@ from clerk import LAB_POS, NO, OK, YES, Clerk, expect, run
 
 QUESTION = ("El archivo de modelos está dañado y no se puede leer. ¿Desea recuperar su última copia buena? "
             "El archivo dañado se conservará a su lado, con la terminación .danado.")
-UNREAD = "Variable de objeto o bloque With no establecido"
+UNREAD = "El archivo de modelos no se puede leer. No se grabará nada en él."
 
 
 def contents(path):
