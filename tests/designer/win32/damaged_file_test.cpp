@@ -78,7 +78,8 @@ TEST_F(DamagedFileAtTheScreen, StaysAsItIsAndIsToldWhenTheAnswerIsNo) {
     Note(told);
     PostMessageW(told, WM_CLOSE, 0, 0);
   });
-  EXPECT_THAT(asked, ElementsAre(kQuestion, std::u16string(runtime::DescriptionOf(91))));
+  EXPECT_THAT(asked,
+              ElementsAre(kQuestion, u"El archivo de modelos no se puede leer. No se grabará nada en él."));
   EXPECT_EQ(Kept(), kCutOff);
   EXPECT_EQ(Aside(), "");
 }
