@@ -3,8 +3,8 @@
 #include <commctrl.h>
 
 #include <algorithm>
+#include <utility>
 
-#include "designer/win32/icons.h"
 #include "designer/win32/palette.h"
 #include "designer/win32/tool_button.h"
 #include "designer/win32/window.h"
@@ -26,6 +26,7 @@ constexpr int kMargin = 10;
 constexpr int kGap = 6;
 constexpr int kWideGap = 18;
 constexpr int kButton = 30;
+constexpr int kDotsSide = 20;
 constexpr int kBox = 64;
 constexpr int kCopiesBox = 54;
 constexpr int kDropDown = 300;
@@ -92,7 +93,8 @@ void FormControls::Create(const Metrics& metrics) {
   Add(WC_STATICW, L"Alto", kLabelStyle, 0);
   Add(WC_EDITW, L"", kBoxStyle, kAlto);
   Add(WC_STATICW, L"Tipo de papel", kLabelStyle, 0);
-  Add(WC_BUTTONW, L"...", BS_PUSHBUTTON | WS_TABSTOP, kElegirPapel);
+  // It shows three dots; its text is the name that a screen reader tells.
+  Add(WC_BUTTONW, L"Tipo de papel", BS_PUSHBUTTON | BS_ICON | WS_TABSTOP, kElegirPapel);
   Add(WC_STATICW, L"Copias", kLabelStyle, 0);
   Add(WC_COMBOBOXW, L"", kListStyle, kListCopias);
   Add(WC_BUTTONW, L"Es Etiqueta", BS_AUTOCHECKBOX | WS_TABSTOP, kEsEtiqueta);
@@ -126,6 +128,9 @@ void FormControls::AddViewport(HWND viewport) {
 void FormControls::SetMetrics(const Metrics& metrics) {
   for (HWND child = nullptr; (child = FindWindowExW(form_, child, nullptr, nullptr)) != nullptr;)
     SendMessageW(child, WM_SETFONT, reinterpret_cast<WPARAM>(metrics.Font()), TRUE);
+  OwnedIcon dots = NewDotsIcon(metrics.Px(kDotsSide));
+  SendMessageW(Get(kElegirPapel), BM_SETIMAGE, IMAGE_ICON, reinterpret_cast<LPARAM>(dots.Get()));
+  dots_ = std::move(dots);
   constexpr WPARAM kClosedPart = static_cast<WPARAM>(-1);
   for (const int list : {kModelos, kImpresoras, kListCopias})
     SendMessageW(Get(list), CB_SETITEMHEIGHT, kClosedPart, RowHeight(metrics) - 6);  // its frame is 3 wide

@@ -7,6 +7,7 @@
 #include <string_view>
 #include <vector>
 
+#include "designer/win32/icons.h"
 #include "designer/win32/menus.h"
 #include "designer/win32/metrics.h"
 
@@ -62,6 +63,7 @@ class FormControls {
 
   HWND form_;
   HWND tips_ = nullptr;
+  OwnedIcon dots_;
   std::vector<HWND> labels_;  // in the order in which they were added
 };
 

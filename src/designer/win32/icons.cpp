@@ -35,6 +35,7 @@ constexpr Shape kPaper[] = {{5, 2, 18, 18, false},      {6.25, 3.25, 16.75, 16.7
                             {8.5, 6, 14.5, 7, false},   {8.5, 9, 14.5, 10, false},
                             {8.5, 12, 12.5, 13, false}, {1.5, 2, 3, 18, false},
                             {1, 2, 3.5, 3, false},      {1, 17, 3.5, 18, false}};
+constexpr Shape kDots[] = {{5, 11, 7, 13, false}, {9, 11, 11, 13, false}, {13, 11, 15, 13, false}};
 
 constexpr int kGrid = 20;
 constexpr int kFiner = 4;  // samples a pixel, in either direction
@@ -45,6 +46,8 @@ std::vector<Shape> ShapesOf(Icon icon) {
       return {std::begin(kDiskette), std::end(kDiskette)};
     case Icon::ImprimirPrueba:
       return {std::begin(kPrinter), std::end(kPrinter)};
+    case Icon::Puntos:
+      return {std::begin(kDots), std::end(kDots)};
     case Icon::Papel:
       break;
   }
@@ -61,9 +64,7 @@ Sample SampleAt(const std::vector<Shape>& shapes, double x, double y) {
   return sample;
 }
 
-}  // namespace
-
-Bitmap32 NewIcon(Icon icon, int side) {
+Bitmap32 Drawn(Icon icon, int side, COLORREF color) {
   const std::vector<Shape> shapes = ShapesOf(icon);
   Bitmap32 bitmap(side, side);
   constexpr unsigned kSamples = kFiner * kFiner;
@@ -80,15 +81,14 @@ Bitmap32 NewIcon(Icon icon, int side) {
         paper += found == Sample::Paper;
       }
       const auto blend = [&](unsigned of) { return (of * line + 0xFF * paper) / kSamples; };
-      bitmap.Row(y)[x] = 0xFF * (line + paper) / kSamples << 24 | blend(GetRValue(kIcon)) << 16 |
-                         blend(GetGValue(kIcon)) << 8 | blend(GetBValue(kIcon));
+      bitmap.Row(y)[x] = 0xFF * (line + paper) / kSamples << 24 | blend(GetRValue(color)) << 16 |
+                         blend(GetGValue(color)) << 8 | blend(GetBValue(color));
     }
   }
   return bitmap;
 }
 
-OwnedIcon NewWindowIcon(int side) {
-  const Bitmap32 drawing = NewIcon(Icon::ImprimirPrueba, side);
+OwnedIcon IconOf(const Bitmap32& drawing, int side) {
   const std::vector<std::uint8_t> nothing(static_cast<std::size_t>((side + 15) / 16 * 2 * side));
   const platform::win32::OwnedBitmap mask(CreateBitmap(side, side, 1, 1, nothing.data()));
   ICONINFO description{};
@@ -96,6 +96,16 @@ OwnedIcon NewWindowIcon(int side) {
   description.hbmMask = mask.Get();
   description.hbmColor = drawing.Handle();
   return OwnedIcon(CreateIconIndirect(&description));
+}
+
+}  // namespace
+
+Bitmap32 NewIcon(Icon icon, int side) { return Drawn(icon, side, kIcon); }
+
+OwnedIcon NewWindowIcon(int side) { return IconOf(NewIcon(Icon::ImprimirPrueba, side), side); }
+
+OwnedIcon NewDotsIcon(int side) {
+  return IconOf(Drawn(Icon::Puntos, side, GetSysColor(COLOR_BTNTEXT)), side);
 }
 
 }  // namespace qm::designer::win32

@@ -42,7 +42,9 @@ LOGFONTW MessageFont(int dpi) {
 
 }  // namespace
 
-Metrics::Metrics(HWND window) : dpi_(DpiOf(window)) {
+Metrics::Metrics(HWND window) : Metrics(DpiOf(window)) {}
+
+Metrics::Metrics(int dpi) : dpi_(dpi) {
   const LOGFONTW description = MessageFont(dpi_);
   font_.Reset(CreateFontIndirectW(&description));
   const ScreenDc screen;

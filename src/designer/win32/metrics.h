@@ -9,6 +9,7 @@ namespace qm::designer::win32 {
 class Metrics {
  public:
   explicit Metrics(HWND window);  // as the window's program sees its resolution; that is left as it is
+  explicit Metrics(int dpi);
 
   [[nodiscard]] int Dpi() const { return dpi_; }
   [[nodiscard]] int Px(int at96) const { return MulDiv(at96, dpi_, 96); }

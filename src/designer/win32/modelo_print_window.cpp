@@ -285,8 +285,8 @@ Answer ModeloPrintWindow::OnContextMenu(WPARAM wide, LPARAM) {
   return 0;
 }
 
-Answer ModeloPrintWindow::OnDpiChanged(WPARAM, LPARAM parameter) {
-  metrics_.emplace(Handle());
+Answer ModeloPrintWindow::OnDpiChanged(WPARAM wide, LPARAM parameter) {
+  metrics_.emplace(static_cast<int>(HIWORD(wide)));
   controls_.SetMetrics(*metrics_);
   page_->SetDpi(metrics_->Dpi());
   const RECT& place = *reinterpret_cast<const RECT*>(parameter);

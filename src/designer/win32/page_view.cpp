@@ -26,7 +26,7 @@ PageView::PageView(ModeloPrint& presenter, const Environment& environment, HWND 
     : presenter_(presenter), dpi_(dpi), painter_(environment.print.files, environment.print.pictures) {
   painter_.SetTransform({dpi_, 1.0});
   Create({.className = kClassName,
-          .title = L"Modelo",
+          .title = L"Página del modelo",  // for who hears the screen
           .style = WS_CHILD | WS_VISIBLE | WS_TABSTOP | WS_CLIPSIBLINGS,
           .classStyle = CS_DBLCLKS,
           .parent = parent,

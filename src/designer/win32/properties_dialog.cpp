@@ -2,6 +2,7 @@
 
 #include <cmath>
 
+#include "designer/win32/window.h"
 #include "platform/win32/dialog.h"
 
 namespace qm::designer::win32 {
@@ -98,6 +99,7 @@ class PropertiesDialog : public Dialog {
   void LbL_Men_Change() { properties_.LbL_Men_Change(TextOf(kLbLMen)); }
   void Command2_Click() { properties_.Command2_Click(); }
 
+  void NameFor(int id, const wchar_t* name) const;
   void ShowValues();
   void ShowSample();
   void DrawSample(HDC dc, RECT area) const;
@@ -200,6 +202,9 @@ DialogLayout PropertiesDialog::Layout(const FieldProperties& properties) {
 
 void PropertiesDialog::Opened() {
   if (!properties_.LbL_Men().enabled) SetText(kLbLMen, properties_.LbL_Men().text);
+  NameFor(kFuenList, L"Fuente");
+  NameFor(kTamañoList, L"Tamaño");
+  if (properties_.LbL_Men().enabled) NameFor(kLbLMen, L"Ejemplo");
   ShowSample();
 }
 
@@ -214,6 +219,15 @@ void PropertiesDialog::Command(int id, int notification) {
   }
   const auto box = static_cast<std::size_t>(id - kFirstBox);
   if (notification == EN_CHANGE && box < FieldProperties::kBoxes) properties_.Box_Change(box, TextOf(id));
+}
+
+// A screen reader names a box or a list by the label right before it. This one, never visible, is for those
+// that have something else there.
+void PropertiesDialog::NameFor(int id, const wchar_t* name) const {
+  const HWND label = CreateWindowExW(0, L"STATIC", name, WS_CHILD | SS_NOPREFIX, 0, 0, 0, 0, Window(),
+                                     nullptr, ThisModule(), nullptr);
+  const HWND before = GetWindow(ControlOf(id), GW_HWNDPREV);
+  if (label && before) SetWindowPos(label, before, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
 }
 
 // What events change besides the control that was used.

@@ -15,6 +15,8 @@ namespace {
 
 using namespace platform::win32;
 using testing::ElementsAre;
+using testing::Pair;
+using testing::UnorderedElementsAre;
 
 constexpr char16_t kTitle[] = u"Propiedades Avanzadas";
 constexpr char16_t kPrinter[] = u"Impresora A4";
@@ -63,7 +65,8 @@ struct PropertiesAtTheScreen : testing::Test, DesigningWorld {
 
 std::vector<std::u16string> TextsOf(HWND dialog, const wchar_t* className) {
   std::vector<std::u16string> texts;
-  for (const HWND child : ChildrenOf(dialog, className)) texts.push_back(WindowDriver::TextOf(child));
+  for (const HWND child : ChildrenOf(dialog, className))
+    if (IsWindowVisible(child)) texts.push_back(WindowDriver::TextOf(child));
   return texts;
 }
 
@@ -105,6 +108,23 @@ TEST_F(PropertiesAtTheScreen, ShowEveryCaptionAndListOfAFixedText) {
   EXPECT_THAT(styles, ElementsAre(u"Normal", u"Cursiva", u"Negrita", u"Negrita Cursiva"));
   EXPECT_EQ(formats, 8);
   EXPECT_THAT(selections, ElementsAre(1, 3, -1, 2, 3, BST_CHECKED));
+}
+
+TEST_F(PropertiesAtTheScreen, HaveNamesThatAScreenReaderTells) {
+  std::map<int, std::u16string> names;
+  ShowWhile(2, [&](HWND dialog) {
+    names = NamesIn(dialog);
+    WindowDriver::Click(dialog, IDCANCEL);
+  });
+  EXPECT_THAT(names,
+              UnorderedElementsAre(Pair(kLeft, u"Posición Izquierda"), Pair(kLeft + 1, u"Posición superior"),
+                                   Pair(kLeft + 2, u"Anchura"), Pair(kLeft + 3, u"Altura"),
+                                   Pair(kAlignment, u"Justificación:"), Pair(kFormat, u"Formato:"),
+                                   Pair(kFonts, u"Fuente"), Pair(kStyles, u"Estilo"), Pair(kSize, u"Tamaño"),
+                                   Pair(kSizes, u"Tamaño"), Pair(kUnderline, u"Subrayado"),
+                                   Pair(kColorButton, u"Elegir..."), Pair(kSample, u"Ejemplo"),
+                                   Pair(kForAll, u"A&plicar tipo de fuentes a todos los campos"),
+                                   Pair(IDOK, u"&Aceptar"), Pair(IDCANCEL, u"&Cancelar")));
 }
 
 TEST_F(PropertiesAtTheScreen, StandInsideTheDialogWithNothingCut) {

@@ -1,6 +1,7 @@
 #pragma once
-// What a user sees of a dialog and does in it, besides window_driver.h.
+// What a user sees of a dialog, hears of it and does in it, besides window_driver.h.
 
+#include <map>
 #include <string>
 #include <vector>
 
@@ -69,11 +70,40 @@ inline RECT PlaceIn(HWND dialog, HWND control) {
   return area;
 }
 
+inline std::wstring ClassOf(HWND window) {
+  wchar_t name[40] = L"";
+  GetClassNameW(window, name, 40);
+  return name;
+}
+
+// What a screen reader tells: boxes and lists are named by the label that stands right before them, all else
+// by its own text.
+inline std::u16string NameOf(HWND control) {
+  const std::wstring kind = ClassOf(control);
+  if (kind != L"Edit" && kind != L"ComboBox" && kind != L"ListBox") return WindowDriver::TextOf(control);
+  const HWND label = GetWindow(control, GW_HWNDPREV);
+  return label && ClassOf(label) == L"Static" ? WindowDriver::TextOf(label) : std::u16string();
+}
+
+// Of every control that takes the keyboard, by its id.
+inline std::map<int, std::u16string> NamesIn(HWND window) {
+  std::map<int, std::u16string> names;
+  for (HWND child = GetWindow(window, GW_CHILD); child; child = GetWindow(child, GW_HWNDNEXT))
+    if ((GetWindowLongPtrW(child, GWL_STYLE) & WS_TABSTOP) != 0) names[GetDlgCtrlID(child)] = NameOf(child);
+  return names;
+}
+
 inline bool IsGroup(HWND control) {
   wchar_t name[16] = L"";
   GetClassNameW(control, name, 16);
   return lstrcmpiW(name, L"Button") == 0 &&
          (GetWindowLongPtrW(control, GWL_STYLE) & BS_TYPEMASK) == BS_GROUPBOX;
+}
+
+// An icon stands where the text would.
+inline bool ShowsNoText(HWND button) {
+  const LONG_PTR style = GetWindowLongPtrW(button, GWL_STYLE);
+  return (style & BS_TYPEMASK) == BS_OWNERDRAW || (style & (BS_ICON | BS_BITMAP)) != 0;
 }
 
 // Controls that lie outside the dialog, over one another or cut their texts; empty when all is well.
@@ -83,7 +113,7 @@ inline std::string FaultsOf(HWND dialog) {
   GetClientRect(dialog, &client);
   std::vector<HWND> controls;
   for (HWND child = GetWindow(dialog, GW_CHILD); child; child = GetWindow(child, GW_HWNDNEXT))
-    controls.push_back(child);
+    if ((GetWindowLongPtrW(child, GWL_STYLE) & WS_VISIBLE) != 0) controls.push_back(child);
   for (std::size_t i = 0; i < controls.size(); ++i) {
     const RECT area = PlaceIn(dialog, controls[i]);
     const std::string id = std::to_string(GetDlgCtrlID(controls[i]));
@@ -95,7 +125,7 @@ inline std::string FaultsOf(HWND dialog) {
     const bool drawn = (GetWindowLongPtrW(controls[i], GWL_STYLE) & SS_TYPEMASK) == SS_OWNERDRAW;
     if (lstrcmpiW(name, L"Static") == 0 && !drawn && !WindowDriver::ShowsAllOf(controls[i]))
       faults += "cut: " + id + "\n";
-    if (lstrcmpiW(name, L"Button") == 0) {
+    if (lstrcmpiW(name, L"Button") == 0 && !ShowsNoText(controls[i])) {
       SIZE needed{};
       HDC dc = GetDC(controls[i]);
       const HGDIOBJ former =
