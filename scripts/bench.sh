@@ -20,7 +20,7 @@ for platform in win64 win32; do
     [ -x /usr/lib/wine/wine ] || { echo "$platform: no 32-bit Wine here"; continue; }
     flags=(--win32)
   fi
-  for bench in picture_surface printer_surface attachments; do
+  for bench in picture_surface printer_surface attachments designer; do
     echo "$platform, $bench"
     scripts/wine-run.sh "${flags[@]}" build/$platform/bench_$bench.exe
   done
