@@ -88,6 +88,8 @@ own_user_folders() {
 from_nothing() {
   mkdir "$prefix"
   WINEDLLOVERRIDES="mscoree=d;mshtml=d;winemenubuilder.exe=d" "$wine" wineboot -i
+  # The signs of caption buttons and menus; Wine does not look for it in its own folder here.
+  cp /usr/share/wine/fonts/marlett.ttf "$prefix/drive_c/windows/Fonts/"
   own_user_folders
 }
 

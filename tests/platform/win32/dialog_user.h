@@ -20,22 +20,22 @@ inline void Type(HWND entry, const std::u16string& text) {
   SendMessageW(entry, WM_SETTEXT, 0, reinterpret_cast<LPARAM>(Wide(text)));
 }
 
+// On its way between windows the focus is nowhere for a moment; it is waited for.
 inline HWND FocusOf(HWND dialog) {
   GUITHREADINFO info{};
   info.cbSize = sizeof info;
-  GetGUIThreadInfo(GetWindowThreadProcessId(dialog, nullptr), &info);
+  for (int attempt = 0; attempt < 40 && !info.hwndFocus; ++attempt) {
+    if (attempt > 0) Sleep(5);
+    GetGUIThreadInfo(GetWindowThreadProcessId(dialog, nullptr), &info);
+  }
   return info.hwndFocus;
 }
 
-// Presses the key where the focus is and waits until it is elsewhere; on its way it is nowhere for a moment.
+// Presses the key where the focus is and waits until it is elsewhere.
 inline void PressAndMoveOn(HWND dialog, WPARAM key) {
   const HWND before = FocusOf(dialog);
   WindowDriver::Press(before, key);
-  for (int attempt = 0; attempt < 400; ++attempt) {
-    const HWND now = FocusOf(dialog);
-    if (now && now != before) return;
-    Sleep(5);
-  }
+  for (int attempt = 0; attempt < 400 && FocusOf(dialog) == before; ++attempt) Sleep(5);
 }
 
 inline std::vector<std::u16string> ItemsOf(HWND list) {

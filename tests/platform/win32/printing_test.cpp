@@ -3,6 +3,7 @@
 #include "platform/win32/pictures.h"
 #include "platform/win32/printer_paper.h"
 #include "platform/win32/printers.h"
+#include "runtime/strings.h"
 #include "tests/platform/win32/expect_error.h"
 #include "tests/platform/win32/gdi_objects.h"
 
@@ -76,7 +77,9 @@ TEST(InstalledPrinters, TellTheirFontsEachOnceAfterTheOneTheyBeginWith) {
   EXPECT_FALSE(names[0].empty());
   names.erase(names.begin());
   EXPECT_THAT(names, IsSupersetOf({u"Liberation Sans", u"Liberation Mono", u"Liberation Serif"}));
-  EXPECT_TRUE(std::is_sorted(names.begin(), names.end()));
+  EXPECT_TRUE(std::is_sorted(names.begin(), names.end(), [](const auto& a, const auto& b) {
+    return runtime::UCase(a) < runtime::UCase(b);
+  }));
   EXPECT_EQ(std::adjacent_find(names.begin(), names.end()), names.end());
   EXPECT_RUNTIME_ERROR(482, (void)Win32Printers().FontNames(u"Impresora que no existe"));
 }
