@@ -8,16 +8,8 @@
 #include <malloc.h>
 
 #include "data/fields.h"
-#include "print/engine.h"
-#include "print/model_choice.h"
 #include "runtime/code_page.h"
-#include "tests/fakes/fake_pictures.h"
-#include "tests/fakes/fake_settings.h"
-#include "tests/fakes/fixed_clock.h"
-#include "tests/fakes/memory_files.h"
-#include "tests/fakes/recording_printer.h"
-#include "tests/fakes/scripted_prompts.h"
-#include "tests/fakes/scripted_spooler.h"
+#include "tests/print/printing_world.h"
 
 namespace {
 
@@ -71,20 +63,7 @@ std::string ModelFileBytes() {
   return text + "</Modelo></Modelos>";
 }
 
-struct World {
-  fakes::MemoryFiles files;
-  fakes::FakePrinters printers;
-  fakes::ScriptedSpooler spooler;
-  fakes::FakePictures pictures{files};
-  fakes::ScriptedPrompts prompts;
-  fakes::FakeSettings settings;
-  fakes::FixedClock clock;
-  model::ModelFile modelFile;
-  print::PaperFormState paperForms;
-  data::PrintJob job;
-  print::Environment environment{files,    printers, spooler,   pictures,   prompts,
-                                 settings, clock,    modelFile, paperForms, runtime::Locale::Spanish()};
-
+struct World : print::PrintingWorld {
   World() {
     modelFile.SetName(u"C:\\Modelos\\factura.xml");
     files.Replace(modelFile.name, ModelFileBytes());

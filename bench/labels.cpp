@@ -7,37 +7,14 @@
 #include <memory>
 
 #include "bench/label_sheet.h"
-#include "print/label_sheets.h"
-#include "print/model_choice.h"
-#include "tests/fakes/fake_pictures.h"
-#include "tests/fakes/fake_settings.h"
-#include "tests/fakes/fixed_clock.h"
-#include "tests/fakes/memory_files.h"
-#include "tests/fakes/recording_printer.h"
-#include "tests/fakes/scripted_prompts.h"
-#include "tests/fakes/scripted_spooler.h"
+#include "tests/print/printing_world.h"
 
 namespace {
 
 using namespace qm;
 
-struct World {
-  std::string log;
-  fakes::MemoryFiles files;
-  fakes::FakePrinters printers{log};
-  fakes::ScriptedSpooler spooler;
-  fakes::FakePictures pictures{files, log};
-  fakes::ScriptedPrompts prompts;
-  fakes::FakeSettings settings;
-  fakes::FixedClock clock;
-  model::ModelFile modelFile;
-  print::PaperFormState paperForms;
-  data::PrintJob job;
-  print::Environment environment{files,    printers, spooler,   pictures,   prompts,
-                                 settings, clock,    modelFile, paperForms, runtime::Locale::Spanish()};
-
+struct World : print::PrintingWorld {
   explicit World(int rows) {
-    spooler.supportsForms = false;
     modelFile.SetName(u"C:\\Modelos\\etiquetas.xml");
     files.Replace(modelFile.name, bench::LabelModelBytes());
     for (int row = 0; row < rows; ++row) job.rows.emplace_back(bench::LabelRow(row));
@@ -47,7 +24,7 @@ struct World {
     log.clear();
     settings.saved.clear();
     prompts.askedOptions.clear();
-    (void)print::PrintLabels(job, environment, print::FindCurrentModel(job, environment));
+    (void)PrintLabels();
   }
 };
 

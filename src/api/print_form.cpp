@@ -6,7 +6,6 @@
 #include "api/records.h"
 #include "data/bulk_loading.h"
 #include "data/fields.h"
-#include "mail/attachments.h"
 #include "mail/print_job_mail.h"
 
 namespace qm::api {
@@ -128,34 +127,30 @@ HRESULT PrintForm::get_XMLFileName(BSTR* result) noexcept {
   return Call([&] { Export(composition_.ModelFile().name, Required(result)); });
 }
 
-HRESULT PrintForm::EmailModelo(BSTR* mydir, BSTR*, BSTR* zipFile) noexcept {
+HRESULT PrintForm::Compose(BSTR* folder, BSTR* file, mail::ComposeDocument* compose) noexcept {
   return Call([&] {
-    std::u16string folder(TextOf(Required(mydir)));
-    const std::u16string file(TextOf(Required(zipFile)));
+    std::u16string composedIn(TextOf(Required(folder)));
+    const std::u16string name(TextOf(Required(file)));
     job_.numeroModelo = ModelNumberOf(numeroModelo_.Get());
-    const bool isDefault = folder.empty();
+    const bool isDefault = composedIn.empty();
     composition_.WithMail(
-        [&](const mail::Environment& environment) { mail::EmailModelo(job_, environment, folder, file); });
-    if (isDefault) ReplaceText(*mydir, folder);
+        [&](const mail::Environment& environment) { compose(job_, environment, composedIn, name); });
+    if (isDefault) ReplaceText(*folder, composedIn);
   });
+}
+
+HRESULT PrintForm::EmailModelo(BSTR* mydir, BSTR*, BSTR* zipFile) noexcept {
+  return Compose(mydir, zipFile, mail::EmailModelo);
+}
+
+HRESULT PrintForm::CrearZip(BSTR* eDir, BSTR* zipFile) noexcept {
+  return Compose(eDir, zipFile, mail::CrearZip);
 }
 
 HRESULT PrintForm::EnviarEmail() noexcept {
   return Call([&] {
     composition_.WithMail(
         [&](const mail::Environment& environment) { mail::EnviarEmail(job_, environment); });
-  });
-}
-
-HRESULT PrintForm::CrearZip(BSTR* eDir, BSTR* zipFile) noexcept {
-  return Call([&] {
-    std::u16string folder(TextOf(Required(eDir)));
-    const std::u16string file(TextOf(Required(zipFile)));
-    job_.numeroModelo = ModelNumberOf(numeroModelo_.Get());
-    const bool isDefault = folder.empty();
-    composition_.WithMail(
-        [&](const mail::Environment& environment) { mail::CrearZip(job_, environment, folder, file); });
-    if (isDefault) ReplaceText(*eDir, folder);
   });
 }
 

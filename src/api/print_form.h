@@ -9,6 +9,7 @@
 #include "automation/connection_point.h"
 #include "automation/variants.h"
 #include "data/print_job.h"
+#include "mail/attachments.h"
 
 namespace qm::api {
 
@@ -70,6 +71,8 @@ class PrintForm final
 
  private:
   [[nodiscard]] void* FindOther(REFIID id) noexcept override;
+  // The host sees which folder an empty one stood for, once the document is made.
+  HRESULT Compose(BSTR* folder, BSTR* file, mail::ComposeDocument* compose) noexcept;
 
   Composition& composition_;
   data::PrintJob job_;

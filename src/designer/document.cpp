@@ -121,25 +121,17 @@ void Document::Start(Layout layout) {
   modified_ = false;
 }
 
-bool Document::Undo() {
-  if (undo_.empty() || inGesture_) return false;
-  redo_.push_back(layout_);
-  Layout earlier = std::move(undo_.back());
-  undo_.pop_back();
-  modified_ = true;
-  inRun_ = false;
-  Become(std::move(earlier));
-  return true;
-}
+bool Document::Undo() { return Step(undo_, redo_); }
+bool Document::Redo() { return Step(redo_, undo_); }
 
-bool Document::Redo() {
-  if (redo_.empty() || inGesture_) return false;
-  undo_.push_back(layout_);
-  Layout later = std::move(redo_.back());
-  redo_.pop_back();
+bool Document::Step(std::vector<Layout>& from, std::vector<Layout>& to) {
+  if (from.empty() || inGesture_) return false;
+  to.push_back(layout_);
+  Layout next = std::move(from.back());
+  from.pop_back();
   modified_ = true;
   inRun_ = false;
-  Become(std::move(later));
+  Become(std::move(next));
   return true;
 }
 

@@ -60,6 +60,7 @@ class Document {
   void SelectLogo();  // and no field
 
  private:
+  bool Step(std::vector<Layout>& from, std::vector<Layout>& to);
   bool Apply(const std::function<void(Layout&)>& change);
   void Remember(Layout earlier);
   void Become(Layout layout);

@@ -3,8 +3,7 @@
 // bitmap, EFactura.bmp, in the folder.
 // eDir:   the folder with its final backslash; an empty one becomes the component's folder.
 // Errors: 52 for a name that no file can have; those of finding the model and of files. An archive that
-// cannot
-//         be made is told to the user instead.
+//         cannot be made is told to the user instead.
 
 #include <string>
 #include <string_view>
@@ -13,6 +12,10 @@
 #include "mail/environment.h"
 
 namespace qm::mail {
+
+// What makes a document of the job in a folder. An empty folder is replaced by the one it stands for.
+using ComposeDocument = void(data::PrintJob& job, const Environment& environment, std::u16string& folder,
+                             std::u16string_view file);
 
 // A file name ending in ".PDF", in any case, makes a PDF. The folder becomes the current one.
 void CrearZip(data::PrintJob& job, const Environment& environment, std::u16string& eDir,

@@ -1,8 +1,8 @@
 #pragma once
 // The hand-off of a message to the mail sender: the request and the body are written into the user's working
 // folder, packed with all files that travel into an archive of the outbox and deleted again; then the sender
-// is started, and not waited for. Errors: 52 where subject and recipient make a name that no archive can
-// have, for an outgoing folder that
+// is started, and not waited for.
+// Errors: 52 where subject and recipient make a name that no archive can have, for an outgoing folder that
 //         cannot stand on a command line, and for a file named like one of the two; those of files; 53 and 5
 //         of the sender.
 

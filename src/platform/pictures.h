@@ -2,8 +2,7 @@
 // Pictures from files, scaled copies, and the clipboard as a place for one.
 // Units:  pixels where a name says so; a picture's own size is twips at 15 twips per pixel.
 // Errors: RuntimeError 481 for a file or bytes that are no picture or a huge one, 7 for one that memory has
-// no
-//         room for, 57 for a clipboard that cannot be opened.
+//         no room for, 57 for a clipboard that cannot be opened.
 // Implemented by win32/pictures and the tests' FakePictures.
 
 #include <memory>

@@ -2,8 +2,7 @@
 // A field of a model as the engines hold it while they go through the model.
 // Units:  twips; fonts in points, above 0 and at most kLargestFontSize.
 // Errors: 13 and 6 for `Height` and `ForeColor` texts that are no number in the user's locale or do not fit,
-// 6
-//         for `Top`, `Left`, `Width` and `Alignment` that do not fit 16 bits.
+//         6 for `Top`, `Left`, `Width` and `Alignment` that do not fit 16 bits.
 
 #include <cstdint>
 #include <optional>

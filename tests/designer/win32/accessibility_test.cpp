@@ -84,36 +84,12 @@ TEST(MenusByTheKeyboard, TheMenuKeyOpensEditarForASelectedFieldAndElseInsertar) 
   EXPECT_THAT(world.dialogs.askedConfirmations, SizeIs(0)) << "a menu alone is no change";
 }
 
-// The host thread's own keyboard, with Shift held down.
-class HeldShift {
- public:
-  explicit HeldShift(const Clerk& clerk) : host_(clerk.HostThread()) {
-    AttachThreadInput(GetCurrentThreadId(), host_, TRUE);
-    Set(0x80);
-  }
-  HeldShift(const HeldShift&) = delete;
-  HeldShift& operator=(const HeldShift&) = delete;
-  ~HeldShift() {
-    Set(0);
-    AttachThreadInput(GetCurrentThreadId(), host_, FALSE);
-  }
-
- private:
-  static void Set(BYTE state) {
-    BYTE keys[256]{};
-    GetKeyboardState(keys);
-    keys[VK_SHIFT] = keys[VK_LSHIFT] = state;
-    SetKeyboardState(keys);
-  }
-  DWORD host_;
-};
-
 TEST(MenusByTheKeyboard, ShiftF10OpensEditarForTheSelectedField) {
   OneField world;
   int first = 0;
   EXPECT_TRUE(Visit(world, [&](Clerk& clerk) {
     clerk.Key(VK_TAB);
-    const HeldShift shift(clerk);
+    const HeldKey shift(clerk, VK_SHIFT, VK_LSHIFT);
     PostMessageW(clerk.Page(), WM_SYSKEYDOWN, VK_F10, 1);
     first = FirstOfTheMenu(clerk);
   }));

@@ -2,6 +2,7 @@
 // A clerk before the designer: a thread that waits for the window, acts on it and, unless it is closed by
 // then, closes it. Plain actions are sent; what opens a dialog or a menu is posted.
 
+#include <array>
 #include <atomic>
 #include <functional>
 #include <string>
@@ -98,6 +99,32 @@ class Clerk {
   DWORD host_;
   HWND form_ = nullptr;
   std::thread thread_;
+};
+
+// A key held down on the host thread's own keyboard.
+class HeldKey {
+ public:
+  HeldKey(const Clerk& clerk, int key, int leftKey) : host_(clerk.HostThread()), keys_{key, leftKey} {
+    AttachThreadInput(GetCurrentThreadId(), host_, TRUE);
+    Set(0x80);
+  }
+  HeldKey(const HeldKey&) = delete;
+  HeldKey& operator=(const HeldKey&) = delete;
+  ~HeldKey() {
+    Set(0);
+    AttachThreadInput(GetCurrentThreadId(), host_, FALSE);
+  }
+
+ private:
+  void Set(BYTE state) const {
+    BYTE all[256]{};
+    GetKeyboardState(all);
+    for (const int key : keys_) all[key] = state;
+    SetKeyboardState(all);
+  }
+
+  DWORD host_;
+  std::array<int, 2> keys_;
 };
 
 // The clerk's mouse is the only one: what the system says of the real one, whose buttons are up, would end

@@ -254,36 +254,12 @@ TEST(KeysOnTheCanvas, EnterOpensTheProperties) {
   }));
 }
 
-// The host thread's own keyboard, with Ctrl held down.
-class HeldControl {
- public:
-  explicit HeldControl(const Clerk& clerk) : host_(clerk.HostThread()) {
-    AttachThreadInput(GetCurrentThreadId(), host_, TRUE);
-    Set(0x80);
-  }
-  HeldControl(const HeldControl&) = delete;
-  HeldControl& operator=(const HeldControl&) = delete;
-  ~HeldControl() {
-    Set(0);
-    AttachThreadInput(GetCurrentThreadId(), host_, FALSE);
-  }
-
- private:
-  static void Set(BYTE state) {
-    BYTE keys[256]{};
-    GetKeyboardState(keys);
-    keys[VK_CONTROL] = keys[VK_LCONTROL] = state;
-    SetKeyboardState(keys);
-  }
-  DWORD host_;
-};
-
 TEST(KeysOnTheCanvas, CtrlWithLettersSavesUndoesRedoesCopiesAndPastes) {
   OneField world;
   EXPECT_TRUE(Visit(world, [&](Clerk& clerk) {
     clerk.ClickAt(1800, 1650);
     clerk.Key(VK_RIGHT);
-    const HeldControl control(clerk);
+    const HeldKey control(clerk, VK_CONTROL, VK_LCONTROL);
     clerk.Key('Z');
     clerk.Key('Y');
     clerk.Key('C');

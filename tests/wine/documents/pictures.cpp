@@ -1,8 +1,7 @@
 // pictures SCENE MODELS.xml NUMBER [FILE FIELD ...]: prints a model with pictures, which the host hands over
 // as texts of one character a byte. Scenes:
-//   good WIDTH HEIGHT    the last file's picture is afterwards on the clipboard, WIDTH by HEIGHT pixels, and
-//   its
-//                        bytes in the folder of temporary files (two arguments before the files)
+//   good WIDTH HEIGHT    the last file's picture is afterwards on the clipboard, WIDTH by HEIGHT pixels,
+//                        and its bytes in the folder of temporary files (two arguments before the files)
 //   disturbed            like good, but somebody else uses the clipboard meanwhile
 //   broken               the print fails with the error of an invalid picture
 #include <cwchar>
