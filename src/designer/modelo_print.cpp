@@ -63,26 +63,6 @@ bool Contains(const std::vector<std::u16string>& names, Text name) {
   return std::find(names.begin(), names.end(), name) != names.end();
 }
 
-// Remembers the process's current folder, which file dialogs may change.
-class CurrentFolderKept {
- public:
-  explicit CurrentFolderKept(platform::Folders& folders)
-      : folders_(folders), folder_(folders.CurrentFolder()) {}
-  CurrentFolderKept(const CurrentFolderKept&) = delete;
-  CurrentFolderKept& operator=(const CurrentFolderKept&) = delete;
-  ~CurrentFolderKept() {
-    try {
-      folders_.SetCurrentFolder(folder_);
-    } catch (const RuntimeError&) {
-      // It is gone meanwhile; nothing here depends on it.
-    }
-  }
-
- private:
-  platform::Folders& folders_;
-  std::u16string folder_;
-};
-
 }  // namespace
 
 ModeloPrint::ModeloPrint(const Environment& environment, View& view, const data::PickerMenus& menus,
@@ -249,10 +229,7 @@ void ModeloPrint::Nuevo() {
 }
 
 void ModeloPrint::GuardarComo() {
-  const auto chosen = [&] {
-    const CurrentFolderKept kept(environment_.folders);
-    return environment_.dialogs.SaveFile(modelFile_.name);
-  }();
+  const auto chosen = environment_.dialogs.SaveFile(modelFile_.name);
   if (!chosen) return;
   const auto full = [&](Text path) { return environment_.folders.FullPath(path); };
   if (runtime::EqualFolded(full(*chosen), full(modelFile_.name))) return;

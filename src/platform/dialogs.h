@@ -41,8 +41,8 @@ class Dialogs {
   [[nodiscard]] virtual bool Confirm(std::u16string_view text) = 0;
   virtual void Tell(Icon icon, std::u16string_view text) = 0;
 
-  // The common file dialogs. They leave the current folder as it was. The filter as "Text (*.a;*.b)|*.a;*.b".
-  // Nothing when cancelled.
+  // The common file dialogs; nothing when cancelled. The process's current folder stays as it was.
+  // The filter as "Text (*.a;*.b)|*.a;*.b".
   [[nodiscard]] virtual std::optional<std::u16string> OpenFile(std::u16string_view filter,
                                                                std::u16string_view initialFolder) = 0;
   [[nodiscard]] virtual std::optional<std::u16string> SaveFile(std::u16string_view fileName) = 0;

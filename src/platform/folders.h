@@ -23,7 +23,6 @@ class Folders {
   [[nodiscard]] virtual std::u16string LocalData() = 0;        // the user's local application data
   [[nodiscard]] virtual std::u16string UserName() = 0;         // of the Windows user
 
-  [[nodiscard]] virtual std::u16string CurrentFolder() = 0;
   virtual void SetCurrentFolder(std::u16string_view folder) = 0;
   // The path made absolute against the current folder.
   [[nodiscard]] virtual std::u16string FullPath(std::u16string_view path) = 0;

@@ -417,21 +417,6 @@ TEST_F(DesignerWindow, SavingAsUnderTheSameNameCopiesNothing) {
   EXPECT_EQ(files.replacements.size(), writes);
 }
 
-TEST_F(DesignerWindow, SavingAsLeavesTheCurrentFolderAsItWas) {
-  struct Wandering : fakes::ScriptedDialogs {
-    fakes::FakeFolders* folders = nullptr;
-    std::optional<std::u16string> SaveFile(std::u16string_view) override {
-      folders->SetCurrentFolder(u"D:\\");
-      return std::nullopt;
-    }
-  } wandering;
-  wandering.folders = &folders;
-  const Environment elsewhere{environment, wandering, folders, processes};
-  ModeloPrint designer(elsewhere, view, menus, 1);
-  designer.arch_Click(1);
-  EXPECT_EQ(folders.currentFolder, u"C:\\Inicio");
-}
-
 TEST_F(DesignerWindow, SavingAsBeforeThereIsAFileSaysSo) {
   files.contents.clear();
   Open();

@@ -38,7 +38,6 @@ class FakeFolders : public platform::Folders {
   [[nodiscard]] std::u16string LocalData() override { return localData; }
   [[nodiscard]] std::u16string UserName() override { return userName; }
 
-  [[nodiscard]] std::u16string CurrentFolder() override { return currentFolder; }
   void SetCurrentFolder(std::u16string_view folder) override {
     currentSet.emplace_back(folder);
     if (cannotBeSet.contains(folder)) throw runtime::RuntimeError(runtime::ErrorNumber::PathNotFound);

@@ -1,7 +1,7 @@
 #include "designer/win32/field_tip.h"
 
-#include "designer/win32/window.h"
 #include "platform/win32/errors.h"
+#include "platform/win32/module.h"
 #include "platform/win32/wide.h"
 
 #include <commctrl.h>
@@ -27,7 +27,7 @@ TTTOOLINFOW ToolOf(HWND view, const std::u16string& text, const RECT& area) {
 void FieldTip::Create(HWND view) {
   view_ = view;
   tips_ = CreateWindowExW(WS_EX_TOPMOST, TOOLTIPS_CLASSW, nullptr, WS_POPUP | TTS_NOPREFIX | TTS_ALWAYSTIP, 0,
-                          0, 0, 0, view, nullptr, ThisModule(), nullptr);
+                          0, 0, 0, view, nullptr, platform::win32::ThisModule(), nullptr);
   if (!tips_) platform::win32::Throw(runtime::ErrorNumber::OutOfMemory);
   const TTTOOLINFOW tool = ToolOf(view_, text_, area_);
   SendMessageW(tips_, TTM_ADDTOOLW, 0, reinterpret_cast<LPARAM>(&tool));

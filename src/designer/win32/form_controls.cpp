@@ -9,10 +9,12 @@
 #include "designer/win32/tool_button.h"
 #include "designer/win32/window.h"
 #include "platform/win32/errors.h"
+#include "platform/win32/module.h"
 
 namespace qm::designer::win32 {
 namespace {
 
+using platform::win32::ThisModule;
 using platform::win32::Wide;
 using platform::win32::WideBuffer;
 

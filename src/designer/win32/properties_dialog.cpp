@@ -4,6 +4,7 @@
 
 #include "designer/win32/window.h"
 #include "platform/win32/dialog.h"
+#include "platform/win32/module.h"
 
 namespace qm::designer::win32 {
 namespace {
@@ -13,6 +14,7 @@ using platform::win32::DialogLayout;
 using platform::win32::OwnedFont;
 using platform::win32::ScreenDc;
 using platform::win32::SelectedObject;
+using platform::win32::ThisModule;
 using platform::win32::Wide;
 
 constexpr int kFuenList = 101;

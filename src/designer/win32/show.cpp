@@ -15,20 +15,6 @@ BOOL CALLBACK IsNoDesigner(HWND window, LPARAM found) noexcept {
   return FALSE;
 }
 
-// The host's window in front, which comes there again at the end.
-class ActiveWindow {
- public:
-  ActiveWindow() : window_(GetActiveWindow()) {}
-  ActiveWindow(const ActiveWindow&) = delete;
-  ActiveWindow& operator=(const ActiveWindow&) = delete;
-  ~ActiveWindow() {
-    if (window_ && IsWindow(window_)) SetActiveWindow(window_);
-  }
-
- private:
-  HWND window_;
-};
-
 }  // namespace
 
 void RequireNotShown() {
@@ -40,7 +26,7 @@ void RequireNotShown() {
 void ShowModeloPrint(const Environment& environment, const data::PickerMenus& menus,
                      std::int16_t numeroModelo) {
   RequireNotShown();
-  const ActiveWindow host;
+  const platform::win32::ActiveAgain host;
   ModeloPrintWindow window(environment, menus, numeroModelo);
   const platform::win32::OtherWindows others(nullptr);  // enabled again before the window goes
   window.Open();

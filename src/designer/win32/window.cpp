@@ -3,15 +3,11 @@
 #include <utility>
 
 #include "platform/win32/errors.h"
+#include "platform/win32/module.h"
 
 namespace qm::designer::win32 {
 
-HINSTANCE ThisModule() {
-  HMODULE module = nullptr;
-  GetModuleHandleExW(GET_MODULE_HANDLE_EX_FLAG_FROM_ADDRESS | GET_MODULE_HANDLE_EX_FLAG_UNCHANGED_REFCOUNT,
-                     reinterpret_cast<LPCWSTR>(&ThisModule), &module);
-  return module;
-}
+using platform::win32::ThisModule;
 
 void Window::Create(const Description& description) {
   WNDCLASSEXW windowClass{};

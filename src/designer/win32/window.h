@@ -10,9 +10,6 @@
 
 namespace qm::designer::win32 {
 
-// The module that this code is part of: the component's library, not the host's program.
-[[nodiscard]] HINSTANCE ThisModule();
-
 // What a handler gives back; nothing leaves the message to Windows as well.
 using Answer = std::optional<LRESULT>;
 

@@ -1,6 +1,7 @@
 #include "platform/win32/folders.h"
 
 #include "platform/win32/errors.h"
+#include "platform/win32/module.h"
 #include "platform/win32/paths.h"
 #include "platform/win32/wide.h"
 
@@ -12,24 +13,6 @@ namespace {
 using runtime::ErrorNumber;
 
 constexpr DWORD kLongestUserName = 257;  // with its final zero
-
-// An address of this DLL.
-const wchar_t kHere = 0;
-
-std::u16string ModulePath() {
-  HMODULE module = nullptr;
-  GetModuleHandleExW(GET_MODULE_HANDLE_EX_FLAG_FROM_ADDRESS | GET_MODULE_HANDLE_EX_FLAG_UNCHANGED_REFCOUNT,
-                     &kHere, &module);
-  std::u16string path(MAX_PATH, u'\0');
-  for (;;) {
-    const DWORD length = GetModuleFileNameW(module, WideBuffer(path), static_cast<DWORD>(path.size()));
-    if (length < path.size()) {
-      path.resize(length);
-      return path;
-    }
-    path.resize(path.size() * 2);
-  }
-}
 
 }  // namespace
 
@@ -62,8 +45,6 @@ std::u16string Win32Folders::UserName() {
   if (!GetUserNameW(name, &length) || length == 0) return {};
   return Text(name, length - 1);
 }
-
-std::u16string Win32Folders::CurrentFolder() { return AbsolutePath(u"."); }
 
 void Win32Folders::SetCurrentFolder(std::u16string_view folder) {
   if (SetCurrentDirectoryW(Wide(std::u16string(folder)))) return;

@@ -13,7 +13,6 @@ class Win32Folders : public Folders {
   [[nodiscard]] std::u16string ComponentFolder() override;
   [[nodiscard]] std::u16string LocalData() override;
   [[nodiscard]] std::u16string UserName() override;
-  [[nodiscard]] std::u16string CurrentFolder() override;
   void SetCurrentFolder(std::u16string_view folder) override;
   [[nodiscard]] std::u16string FullPath(std::u16string_view path) override;
   [[nodiscard]] bool Matches(std::u16string_view pattern) override;

@@ -1,9 +1,8 @@
 #include "platform/win32/processes.h"
 
-#include <vector>
-
 #include "platform/win32/errors.h"
 #include "platform/win32/handles.h"
+#include "platform/win32/other_windows.h"
 
 namespace qm::platform::win32 {
 namespace {
@@ -42,31 +41,6 @@ OwnedProcess Start(std::u16string_view program, std::u16string_view arguments, W
   return OwnedProcess(started.hProcess);
 }
 
-BOOL CALLBACK CollectUsable(HWND window, LPARAM list) noexcept {
-  if (IsWindowVisible(window) && IsWindowEnabled(window))
-    reinterpret_cast<std::vector<HWND>*>(list)->push_back(window);
-  return TRUE;
-}
-
-// The thread's windows without input for a scope; afterwards the one that was active is so again.
-class WindowsWithoutInput {
- public:
-  WindowsWithoutInput() : active_(GetActiveWindow()) {
-    EnumThreadWindows(GetCurrentThreadId(), CollectUsable, reinterpret_cast<LPARAM>(&windows_));
-    for (const HWND window : windows_) EnableWindow(window, FALSE);
-  }
-  WindowsWithoutInput(const WindowsWithoutInput&) = delete;
-  WindowsWithoutInput& operator=(const WindowsWithoutInput&) = delete;
-  ~WindowsWithoutInput() {
-    for (const HWND window : windows_) EnableWindow(window, TRUE);
-    if (active_) SetForegroundWindow(active_);
-  }
-
- private:
-  HWND active_;
-  std::vector<HWND> windows_;
-};
-
 // Keys would still reach the window with the focus, although it takes no input.
 bool IsKey(const MSG& message) { return message.message >= WM_KEYFIRST && message.message <= WM_KEYLAST; }
 
@@ -91,7 +65,8 @@ void Win32Processes::StartHidden(std::u16string_view program, std::u16string_vie
 
 void Win32Processes::RunAndWait(std::u16string_view program, std::u16string_view arguments) {
   const OwnedProcess process = Start(program, arguments, SW_SHOWNORMAL);
-  const WindowsWithoutInput quiet;
+  const ActiveAgain active;
+  const OtherWindows others(nullptr);
   HANDLE ended = process.Get();
   while (MsgWaitForMultipleObjectsEx(1, &ended, INFINITE, QS_ALLINPUT, MWMO_INPUTAVAILABLE) ==
          WAIT_OBJECT_0 + 1) {

@@ -1,22 +1,20 @@
 #include "platform/win32/visual_styles.h"
 
+#include "platform/win32/module.h"
+
 namespace qm::platform::win32 {
 namespace {
 
 constexpr WORD kManifestResource = 2;  // of a library that leaves its process's look alone
 
 OwnedActivationContext ContextOfThisModule() {
-  HMODULE module = nullptr;
-  GetModuleHandleExW(GET_MODULE_HANDLE_EX_FLAG_FROM_ADDRESS | GET_MODULE_HANDLE_EX_FLAG_UNCHANGED_REFCOUNT,
-                     reinterpret_cast<const wchar_t*>(&ContextOfThisModule), &module);
-  wchar_t path[MAX_PATH * 4] = L"";
-  GetModuleFileNameW(module, path, ARRAYSIZE(path) - 1);
+  const std::u16string path = ModulePath();
   ACTCTXW description{};
   description.cbSize = sizeof description;
   description.dwFlags = ACTCTX_FLAG_RESOURCE_NAME_VALID | ACTCTX_FLAG_HMODULE_VALID;
-  description.lpSource = path;
+  description.lpSource = Wide(path);
   description.lpResourceName = MAKEINTRESOURCEW(kManifestResource);
-  description.hModule = module;
+  description.hModule = ThisModule();
   return OwnedActivationContext(CreateActCtxW(&description));
 }
 

@@ -2,6 +2,7 @@
 
 #include <gmock/gmock.h>
 
+#include "platform/win32/module.h"
 #include "runtime/error.h"
 #include "tests/designer/win32/clerk.h"
 #include "tests/platform/win32/gdi_objects.h"
@@ -216,7 +217,7 @@ TEST(OneHundredVisits, LeaveNoObjectBehind) {
   EXPECT_LE(FreshKernelHandle(), kernel + kOfTheSystem);
   WNDCLASSEXW description{};
   description.cbSize = sizeof description;
-  EXPECT_FALSE(GetClassInfoExW(ThisModule(), ModeloPrintWindow::kClassName, &description));
+  EXPECT_FALSE(GetClassInfoExW(platform::win32::ThisModule(), ModeloPrintWindow::kClassName, &description));
 }
 
 }  // namespace

@@ -9,7 +9,7 @@ namespace {
 struct SystemFolders : testing::Test {
   ScratchFolder scratch;
   Win32Folders folders;
-  std::u16string former = folders.CurrentFolder();
+  std::u16string former = folders.FullPath(u".");
 
   ~SystemFolders() override { folders.SetCurrentFolder(former); }
 };
@@ -64,7 +64,7 @@ TEST_F(SystemFolders, MatchFoldersHiddenFilesAndPatterns) {
 
 TEST_F(SystemFolders, MakePathsFullAgainstTheCurrentOne) {
   folders.SetCurrentFolder(scratch.File(u""));
-  EXPECT_EQ(folders.CurrentFolder() + u"\\", scratch.File(u""));
+  EXPECT_EQ(folders.FullPath(u".") + u"\\", scratch.File(u""));
   EXPECT_EQ(folders.FullPath(u"x.pdf"), scratch.File(u"x.pdf"));
   EXPECT_EQ(folders.FullPath(u"a\\..\\x.pdf"), scratch.File(u"x.pdf"));
   EXPECT_EQ(folders.FullPath(u"C:/a/x.pdf"), u"C:\\a\\x.pdf");
@@ -74,7 +74,7 @@ TEST_F(SystemFolders, MakePathsFullAgainstTheCurrentOne) {
 
 TEST_F(SystemFolders, AreNoCurrentOnesWhenTheyDoNotExist) {
   EXPECT_RUNTIME_ERROR(76, folders.SetCurrentFolder(scratch.File(u"nada\\")));
-  EXPECT_EQ(folders.CurrentFolder(), former);
+  EXPECT_EQ(folders.FullPath(u"."), former);
 }
 
 }  // namespace
