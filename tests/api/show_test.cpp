@@ -9,26 +9,25 @@
 #include "tests/api/component.h"
 #include "tests/data/definition_bytes.h"
 #include "tests/platform/win32/scratch_folder.h"
+#include "tests/platform/win32/thread_windows.h"
 
 namespace qm::tests {
 namespace {
 
 using ::testing::ElementsAre;
 
-HWND Designer() { return FindWindowW(L"ModeloPrint", L"Modelos de Impresión"); }
+constexpr wchar_t kDesignerClass[] = L"ModeloPrint";
+constexpr wchar_t kDesignerTitle[] = L"Modelos de Impresión";
 
-// Waits for the designer, looks at it and closes it.
+// Waits for this thread's designer, looks at it and closes it.
 class Visitor {
  public:
   explicit Visitor(std::function<void(HWND)> look = [](HWND) {})
-      : thread_([look = std::move(look)] {
-          for (int attempt = 0; attempt < 2000; ++attempt, Sleep(5)) {
-            const HWND designer = Designer();
-            if (!designer || !IsWindowVisible(designer)) continue;
-            look(designer);
-            PostMessageW(designer, WM_CLOSE, 0, 0);
-            return;
-          }
+      : thread_([host = GetCurrentThreadId(), look = std::move(look)] {
+          const HWND designer = platform::win32::WaitForWindow(host, kDesignerClass, kDesignerTitle);
+          if (!designer) return;
+          look(designer);
+          PostMessageW(designer, WM_CLOSE, 0, 0);
         }) {}
   Visitor(const Visitor&) = delete;
   Visitor& operator=(const Visitor&) = delete;
@@ -76,7 +75,7 @@ TEST_F(ShowingTheDesigner, ReturnsWhenTheUserClosesIt) {
   const Visitor visitor([&](HWND designer) { shown = designer; });
   EXPECT_EQ(form_->Show(), S_OK);
   EXPECT_FALSE(IsWindow(shown));
-  EXPECT_EQ(Designer(), nullptr);
+  EXPECT_FALSE(platform::win32::VisibleWindow(GetCurrentThreadId(), kDesignerClass));
 }
 
 TEST_F(ShowingTheDesigner, LeavesTheComponentReadyToBeUnloaded) {
@@ -144,9 +143,8 @@ void CALLBACK ShowAgain(HWND, UINT, UINT_PTR timer, DWORD) {
 TEST_F(ShowingTheDesigner, WhileItIsOpenIsError400) {
   shownAgain = form_.Get();
   const UINT_PTR timer = SetTimer(nullptr, 0, 10, ShowAgain);
-  const Visitor visitor([](HWND) {
-    for (int attempt = 0; attempt < 2000 && resultOfShowingAgain == S_OK; ++attempt) Sleep(5);
-  });
+  const Visitor visitor(
+      [](HWND) { (void)platform::win32::WaitUntil([] { return resultOfShowingAgain != S_OK; }); });
   EXPECT_EQ(form_->Show(), S_OK);
   KillTimer(nullptr, timer);
   EXPECT_EQ(resultOfShowingAgain.load(), RuntimeResult(400));

@@ -66,7 +66,7 @@ int FirstOfTheMenu(const Clerk& clerk) {
   const auto menu = reinterpret_cast<HMENU>(SendMessageW(popUp, MN_GETHMENU, 0, 0));
   const int first = static_cast<int>(GetMenuItemID(menu, 0));
   SendMessageW(clerk.Form(), WM_CANCELMODE, 0, 0);
-  EXPECT_TRUE(Clerk::Until([&] { return !IsWindow(popUp) || !IsWindowVisible(popUp); }));
+  EXPECT_TRUE(WaitUntil([&] { return !IsWindow(popUp) || !IsWindowVisible(popUp); }));
   return first;
 }
 

@@ -16,6 +16,9 @@
 
 namespace qm::designer::win32 {
 
+using platform::win32::kDialogClass;
+using platform::win32::WaitForWindow;
+using platform::win32::WaitUntil;
 using platform::win32::Wide;
 using platform::win32::WindowDriver;
 
@@ -41,18 +44,7 @@ class Clerk {
 
   // A visible window of the host's thread, waited for; null when it never comes.
   [[nodiscard]] HWND WaitFor(const wchar_t* className, const wchar_t* title) const {
-    HWND found = nullptr;
-    (void)Until([&] {
-      for (HWND window = nullptr; (window = FindWindowExW(nullptr, window, className, title)) != nullptr;)
-        if (IsWindowVisible(window) && GetWindowThreadProcessId(window, nullptr) == host_) found = window;
-      return found != nullptr;
-    });
-    return found;
-  }
-  static bool Until(const std::function<bool()>& condition) {
-    for (int attempt = 0; attempt < 2000; ++attempt, Sleep(5))
-      if (condition()) return true;
-    return false;
+    return WaitForWindow(host_, className, title);
   }
 
   void Choose(int command) const { SendMessageW(form_, WM_COMMAND, static_cast<WPARAM>(command), 0); }

@@ -68,13 +68,8 @@ TEST_F(DamagedFileAtTheScreen, StaysAsItIsAndIsToldWhenTheAnswerIsNo) {
   OpenWhile([&](HWND question) {
     const DWORD host = GetWindowThreadProcessId(question, nullptr);
     WindowDriver::Click(question, IDNO);
-    HWND told = nullptr;
-    EXPECT_TRUE(Clerk::Until([&] {
-      for (HWND box = nullptr; (box = FindWindowExW(nullptr, box, L"#32770", nullptr)) != nullptr;)
-        if (box != question && IsWindowVisible(box) && GetWindowThreadProcessId(box, nullptr) == host)
-          told = box;
-      return told != nullptr;
-    }));
+    const HWND told = WaitForWindow(host, kDialogClass, nullptr, question);
+    EXPECT_TRUE(told);
     Note(told);
     PostMessageW(told, WM_CLOSE, 0, 0);
   });

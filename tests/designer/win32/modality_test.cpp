@@ -91,7 +91,7 @@ TEST(Modality, TheEndOfTheProgramClosesItAndIsPassedOn) {
   WindowWorld world;
   EXPECT_TRUE(Visit(world, [&](Clerk& clerk) {
     PostThreadMessageW(clerk.HostThread(), WM_QUIT, 7, 0);
-    EXPECT_TRUE(Clerk::Until([&] { return !IsWindow(clerk.Form()); }));
+    EXPECT_TRUE(WaitUntil([&] { return !IsWindow(clerk.Form()); }));
   }));
   MSG message{};
   ASSERT_TRUE(PeekMessageW(&message, nullptr, WM_QUIT, WM_QUIT, PM_REMOVE));
@@ -104,7 +104,7 @@ TEST(Modality, TheEndOfTheProgramAsksBeforeAnythingIsDropped) {
   EXPECT_TRUE(Visit(world, [&](Clerk& clerk) {
     clerk.Type(kAncho, u"12");
     PostThreadMessageW(clerk.HostThread(), WM_QUIT, 0, 0);
-    EXPECT_TRUE(Clerk::Until([&] { return !IsWindow(clerk.Form()); }));
+    EXPECT_TRUE(WaitUntil([&] { return !IsWindow(clerk.Form()); }));
   }));
   MSG message{};
   (void)PeekMessageW(&message, nullptr, WM_QUIT, WM_QUIT, PM_REMOVE);
@@ -152,7 +152,7 @@ TEST(Closing, ShutdownIsNotHeldUpAndAsksInItsSecondStage) {
     allowed = SendMessageW(clerk.Form(), WM_QUERYENDSESSION, 0, 0);
     askedInTheFirstStage = world.dialogs.askedConfirmations.size();
     SendMessageW(clerk.Form(), WM_ENDSESSION, TRUE, 0);
-    EXPECT_TRUE(Clerk::Until([&] { return !IsWindow(clerk.Form()); }));
+    EXPECT_TRUE(WaitUntil([&] { return !IsWindow(clerk.Form()); }));
   }));
   EXPECT_EQ(allowed, TRUE);
   EXPECT_EQ(askedInTheFirstStage, 0U);

@@ -111,7 +111,7 @@ TEST(MouseOnTheCanvas, TheRightButtonOpensEditarOnAFieldAndInsertarBesideIt) {
       const auto menu = reinterpret_cast<HMENU>(SendMessageW(popUp, 0x01E1 /* MN_GETHMENU */, 0, 0));
       firstItems.push_back(GetMenuItemID(menu, 0));
       SendMessageW(clerk.Form(), WM_CANCELMODE, 0, 0);
-      EXPECT_TRUE(Clerk::Until([&] { return !IsWindow(popUp) || !IsWindowVisible(popUp); }));
+      EXPECT_TRUE(WaitUntil([&] { return !IsWindow(popUp) || !IsWindowVisible(popUp); }));
     }
   }));
   EXPECT_THAT(firstItems, ElementsAre(static_cast<UINT>(kEliminar), static_cast<UINT>(-1)));  // a sub-menu
@@ -123,11 +123,11 @@ TEST(MouseOnTheCanvas, ADoubleClickOpensThePropertiesOfTheField) {
   EXPECT_TRUE(Visit(world, [&](Clerk& clerk) {
     clerk.ClickAt(1800, 1650);
     PostMessageW(clerk.Page(), WM_LBUTTONDBLCLK, MK_LBUTTON, Clerk::At(1800, 1650));
-    const HWND dialog = clerk.WaitFor(L"#32770", L"Propiedades Avanzadas");
+    const HWND dialog = clerk.WaitFor(kDialogClass, L"Propiedades Avanzadas");
     ASSERT_NE(dialog, nullptr);
     EXPECT_FALSE(IsWindowEnabled(clerk.Form()));
     PostMessageW(dialog, WM_COMMAND, IDCANCEL, 0);
-    EXPECT_TRUE(Clerk::Until([&] { return !IsWindow(dialog); }));
+    EXPECT_TRUE(WaitUntil([&] { return !IsWindow(dialog); }));
     EXPECT_TRUE(IsWindowEnabled(clerk.Form()));
   }));
 }
@@ -247,10 +247,10 @@ TEST(KeysOnTheCanvas, EnterOpensTheProperties) {
   EXPECT_TRUE(Visit(world, [&](Clerk& clerk) {
     clerk.Key(VK_TAB);
     PostMessageW(clerk.Page(), WM_KEYDOWN, VK_RETURN, 1);
-    const HWND dialog = clerk.WaitFor(L"#32770", L"Propiedades Avanzadas");
+    const HWND dialog = clerk.WaitFor(kDialogClass, L"Propiedades Avanzadas");
     ASSERT_NE(dialog, nullptr);
     PostMessageW(dialog, WM_COMMAND, IDCANCEL, 0);
-    EXPECT_TRUE(Clerk::Until([&] { return !IsWindow(dialog); }));
+    EXPECT_TRUE(WaitUntil([&] { return !IsWindow(dialog); }));
   }));
 }
 
@@ -280,13 +280,13 @@ TEST(KeysInTheForm, F6GoesBetweenThePageAndTheSettings) {
       GetGUIThreadInfo(clerk.HostThread(), &info);
       return info.hwndFocus;
     };
-    EXPECT_TRUE(Clerk::Until([&] { return focus() == clerk.Page(); }));
+    EXPECT_TRUE(WaitUntil([&] { return focus() == clerk.Page(); }));
     PostMessageW(clerk.Page(), WM_KEYDOWN, VK_F6, 1);
-    EXPECT_TRUE(Clerk::Until([&] { return focus() == clerk.Control(kAncho); }));
+    EXPECT_TRUE(WaitUntil([&] { return focus() == clerk.Control(kAncho); }));
     PostMessageW(clerk.Control(kAncho), WM_KEYDOWN, VK_TAB, 1);
-    EXPECT_TRUE(Clerk::Until([&] { return focus() == clerk.Control(kAlto); }));
+    EXPECT_TRUE(WaitUntil([&] { return focus() == clerk.Control(kAlto); }));
     PostMessageW(clerk.Control(kAlto), WM_KEYDOWN, VK_F6, 1);
-    EXPECT_TRUE(Clerk::Until([&] { return focus() == clerk.Page(); }));
+    EXPECT_TRUE(WaitUntil([&] { return focus() == clerk.Page(); }));
   }));
 }
 

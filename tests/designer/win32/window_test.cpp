@@ -36,7 +36,7 @@ TEST(DesignerWindow, OpensWithItsCaptionAndClosesWithTheCloseBox) {
   EXPECT_TRUE(Visit(world, [&](Clerk& clerk) {
     caption = WindowDriver::TextOf(clerk.Form());
     PostMessageW(clerk.Form(), WM_SYSCOMMAND, SC_CLOSE, 0);
-    EXPECT_TRUE(Clerk::Until([&] { return !IsWindow(clerk.Form()); }));
+    EXPECT_TRUE(WaitUntil([&] { return !IsWindow(clerk.Form()); }));
   }));
   EXPECT_EQ(caption, u"Modelos de Impresión");
 }
@@ -168,7 +168,7 @@ TEST(DesignerMenus, ArchivoAsksForAModelAFileNameAndClosesTheWindow) {
     clerk.Choose(kNuevo);
     clerk.Choose(kGuardarComo);
     clerk.Choose(kSalir);
-    EXPECT_TRUE(Clerk::Until([&] { return !IsWindow(clerk.Form()); }));
+    EXPECT_TRUE(WaitUntil([&] { return !IsWindow(clerk.Form()); }));
   }));
   ASSERT_EQ(world.dialogs.askedTexts.size(), 1U);
   EXPECT_EQ(world.dialogs.askedTexts[0].title, u"Utilzar como modelo");

@@ -24,10 +24,8 @@ inline void Type(HWND entry, const std::u16string& text) {
 inline HWND FocusOf(HWND dialog) {
   GUITHREADINFO info{};
   info.cbSize = sizeof info;
-  for (int attempt = 0; attempt < 40 && !info.hwndFocus; ++attempt) {
-    if (attempt > 0) Sleep(5);
-    GetGUIThreadInfo(GetWindowThreadProcessId(dialog, nullptr), &info);
-  }
+  const DWORD thread = GetWindowThreadProcessId(dialog, nullptr);
+  (void)WaitUntil([&] { return GetGUIThreadInfo(thread, &info) && info.hwndFocus; });
   return info.hwndFocus;
 }
 
@@ -35,7 +33,7 @@ inline HWND FocusOf(HWND dialog) {
 inline void PressAndMoveOn(HWND dialog, WPARAM key) {
   const HWND before = FocusOf(dialog);
   WindowDriver::Press(before, key);
-  for (int attempt = 0; attempt < 400 && FocusOf(dialog) == before; ++attempt) Sleep(5);
+  (void)WaitUntil([&] { return FocusOf(dialog) != before; });
 }
 
 inline std::vector<std::u16string> ItemsOf(HWND list) {

@@ -182,19 +182,12 @@ TEST(PropertyEntries, APictureFileCanBeLookedFor) {
   EXPECT_EQ(PropertiesAskedWhile([&](HWND dialog) {
               const DWORD owner = GetWindowThreadProcessId(dialog, nullptr);
               PostMessageW(ChildrenOf(dialog, L"Button")[1], BM_CLICK, 0, 0);
-              HWND files = nullptr;
-              for (int attempt = 0; attempt < 2000 && !files; ++attempt, Sleep(5))
-                for (HWND window = nullptr; (window = FindWindowExW(nullptr, window, L"#32770", nullptr));)
-                  if (window != dialog && IsWindowVisible(window) &&
-                      GetWindowThreadProcessId(window, nullptr) == owner)
-                    files = window;
+              const HWND files = WaitForWindow(owner, kDialogClass, nullptr, dialog);
               SendDlgItemMessageW(files, kFileName, WM_SETTEXT, 0,
                                   reinterpret_cast<LPARAM>(Wide(folder.File(u"logo.bmp"))));
               PostMessageW(files, WM_COMMAND, IDOK, 0);
-              for (int attempt = 0; attempt < 2000 && IsWindow(files); ++attempt) Sleep(5);
-              for (int attempt = 0;
-                   attempt < 400 && WindowDriver::TextOf(ChildrenOf(dialog, L"Edit")[2]).empty(); ++attempt)
-                Sleep(5);
+              (void)WaitUntil([&] { return !IsWindow(files); });
+              (void)WaitUntil([&] { return !WindowDriver::TextOf(ChildrenOf(dialog, L"Edit")[2]).empty(); });
               WindowDriver::Click(dialog, IDOK);
             }),
             (Texts{u"1,058201", u"0,79", u"1", folder.File(u"logo.bmp")}));
@@ -287,10 +280,7 @@ class SystemDialogUser {
  public:
   explicit SystemDialogUser(std::function<void(HWND)> action)
       : thread_([owner = GetCurrentThreadId(), action = std::move(action)] {
-          for (int attempt = 0; attempt < 2000; ++attempt, Sleep(5))
-            for (HWND window = nullptr; (window = FindWindowExW(nullptr, window, L"#32770", nullptr));)
-              if (IsWindowVisible(window) && GetWindowThreadProcessId(window, nullptr) == owner)
-                return action(window);
+          if (const HWND dialog = WaitForWindow(owner, kDialogClass)) action(dialog);
         }) {}
   SystemDialogUser(const SystemDialogUser&) = delete;
   SystemDialogUser& operator=(const SystemDialogUser&) = delete;

@@ -8,6 +8,7 @@
 #include <thread>
 
 #include "platform/win32/wide.h"
+#include "tests/platform/win32/thread_windows.h"
 
 namespace qm::platform::win32 {
 
@@ -16,7 +17,7 @@ class WindowDriver {
   // Acts on the first visible dialog with that title; gives up after ten seconds.
   WindowDriver(std::u16string title, std::function<void(HWND)> action)
       : title_(std::move(title)), thread_([this, owner = GetCurrentThreadId(), action = std::move(action)] {
-          if (const HWND window = WaitForDialog(owner)) {
+          if (const HWND window = WaitForWindow(owner, kDialogClass, Wide(title_))) {
             action(window);
             acted_ = true;
           }
@@ -65,16 +66,6 @@ class WindowDriver {
   }
 
  private:
-  HWND WaitForDialog(DWORD ownerThread) const {
-    for (int attempt = 0; attempt < 2000; ++attempt) {
-      for (HWND window = nullptr; (window = FindWindowExW(nullptr, window, L"#32770", Wide(title_)));)
-        if (IsWindowVisible(window) && GetWindowThreadProcessId(window, nullptr) == ownerThread)
-          return window;
-      Sleep(5);
-    }
-    return nullptr;
-  }
-
   void Join() {
     if (thread_.joinable()) thread_.join();
   }

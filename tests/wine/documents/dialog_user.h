@@ -53,7 +53,7 @@ class DialogUser {
     HWND answered = nullptr;
     int polls = 0;
     for (; !stop_; Sleep(kPollMilliseconds)) {
-      const HWND dialog = OpenDialog();
+      const HWND dialog = qm::platform::win32::VisibleWindow(host_, qm::platform::win32::kDialogClass);
       if (!dialog) continue;
       if (dialog != answered) {
         Take(dialog);
@@ -63,12 +63,6 @@ class DialogUser {
         GiveUp("a dialog stays open", dialog);
       }
     }
-  }
-
-  [[nodiscard]] HWND OpenDialog() const {
-    for (HWND window = nullptr; (window = FindWindowExW(nullptr, window, L"#32770", nullptr)) != nullptr;)
-      if (IsWindowVisible(window) && GetWindowThreadProcessId(window, nullptr) == host_) return window;
-    return nullptr;
   }
 
   void Take(HWND dialog) {
