@@ -93,11 +93,13 @@ void PageView::ShowAgain(const RECT& ofPage) {
 }
 
 void PageView::LayoutChanged(const Layout& before, const Layout& after) {
-  if (!SameButFields(before, after)) {
+  if (SameButFields(before, after)) {
+    FieldsChanged(before, after);
+  } else {
     tiles_.Clear();
+    lifted_ = 0;
     InvalidateRect(Handle(), nullptr, FALSE);
   }
-  FieldsChanged(before, after);
   FollowMarks();
 }
 
@@ -121,14 +123,16 @@ void PageView::FieldsChanged(const Layout& before, const Layout& after) {
     if (const Field* field = after.At(lifted_)) tiles_.Drop(painter_.BoundsOf(*field));
     lifted_ = 0;
   }
+  RECT all{};  // shown again at once: each call of Windows for it has its price
   each([&](int index) {
     for (const Field* field : {before.At(index), after.At(index)}) {
       if (field == nullptr) continue;
       const RECT bounds = painter_.BoundsOf(*field);
       if (index != lifted_ && (!moved || field == before.At(index))) tiles_.Drop(bounds);
-      ShowAgain(bounds);
+      UnionRect(&all, &all, &bounds);
     }
   });
+  ShowAgain(all);
   if (!moved) return;
   lifted_ = changed;
   SetTimer(Handle(), kSettleTimer, kSettleMilliseconds, nullptr);
