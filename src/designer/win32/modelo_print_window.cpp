@@ -53,14 +53,17 @@ int Scrolled(HWND bar, int code, int page) {
   }
 }
 
-// The bar reaches its maximum, whatever the size of its box.
+// The bar reaches its maximum, whatever the size of its box. One that stands so already is not painted again.
 void ShowScroll(HWND bar, int position, int most, int visible) {
-  SCROLLINFO info{};
-  info.cbSize = sizeof info;
-  info.fMask = SIF_POS | SIF_RANGE | SIF_PAGE;
+  SCROLLINFO shown{};
+  shown.cbSize = sizeof shown;
+  shown.fMask = SIF_POS | SIF_RANGE | SIF_PAGE;
+  GetScrollInfo(bar, SB_CTL, &shown);
+  SCROLLINFO info = shown;
   info.nPage = static_cast<UINT>(std::clamp(visible, 1, std::max(1, most)));
   info.nMax = most + static_cast<int>(info.nPage) - 1;
   info.nPos = position;
+  if (info.nPage == shown.nPage && info.nMax == shown.nMax && info.nPos == shown.nPos) return;
   SetScrollInfo(bar, SB_CTL, &info, TRUE);
 }
 
@@ -215,7 +218,10 @@ Answer ModeloPrintWindow::OnSize(WPARAM, LPARAM) {
 void ModeloPrintWindow::AdjustForm() {
   RECT client{};
   GetClientRect(Handle(), &client);
-  controls_.Place(*metrics_, static_cast<int>(client.right), static_cast<int>(client.bottom));
+  if (!EqualRect(&client, &adjustedFor_)) {
+    controls_.Place(*metrics_, static_cast<int>(client.right), static_cast<int>(client.bottom));
+    adjustedFor_ = client;
+  }
   ShowScrollBars();
 }
 
@@ -288,6 +294,7 @@ Answer ModeloPrintWindow::OnContextMenu(WPARAM wide, LPARAM) {
 Answer ModeloPrintWindow::OnDpiChanged(WPARAM wide, LPARAM parameter) {
   metrics_.emplace(static_cast<int>(HIWORD(wide)));
   controls_.SetMetrics(*metrics_);
+  adjustedFor_ = {};
   page_->SetDpi(metrics_->Dpi());
   const RECT& place = *reinterpret_cast<const RECT*>(parameter);
   SetWindowPos(Handle(), nullptr, place.left, place.top, WidthOf(place), HeightOf(place),

@@ -83,6 +83,7 @@ class ModeloPrintWindow final : public Window, public View, public ModalWindow {
   FormControls controls_{nullptr};
   std::optional<PageView> page_;
   HWND focus_ = nullptr;  // of the controls, while another program is in front
+  RECT adjustedFor_{};    // the client area for which the controls stand
   int shownModel_ = -1;
   int shownPrinter_ = -1;
   bool closed_ = false;
