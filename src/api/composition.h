@@ -29,6 +29,7 @@ class Composition {
   Composition();
   Composition(const Composition&) = delete;
   Composition& operator=(const Composition&) = delete;
+  ~Composition() = default;
 
   // Shared by all print jobs of the process.
   [[nodiscard]] model::ModelFile& ModelFile() noexcept { return modelFile_; }

@@ -19,6 +19,7 @@ class ConnectionPoints final : public IConnectionPointContainer {
   ConnectionPoints(IUnknown& owner, const Interface& events) : owner_(owner), point_(*this, events) {}
   ConnectionPoints(const ConnectionPoints&) = delete;
   ConnectionPoints& operator=(const ConnectionPoints&) = delete;
+  ~ConnectionPoints() = default;
 
   HRESULT STDMETHODCALLTYPE QueryInterface(REFIID id, void** object) noexcept override {
     return owner_.QueryInterface(id, object);

@@ -74,9 +74,9 @@ Bitmap32 Drawn(Icon icon, int side, COLORREF color) {
       unsigned line = 0;
       unsigned paper = 0;
       for (int sample = 0; sample < static_cast<int>(kSamples); ++sample) {
-        const double across = (x * kFiner + sample % kFiner + 0.5) * unit;
-        const double down = (y * kFiner + sample / kFiner + 0.5) * unit;
-        const Sample found = SampleAt(shapes, across, down);
+        const int column = x * kFiner + sample % kFiner;
+        const int row = y * kFiner + sample / kFiner;
+        const Sample found = SampleAt(shapes, (column + 0.5) * unit, (row + 0.5) * unit);
         line += found == Sample::Line;
         paper += found == Sample::Paper;
       }

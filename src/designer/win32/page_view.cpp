@@ -207,7 +207,8 @@ bool PageView::DrawAhead() {
   RECT wanted = InSight();
   InflateRect(&wanted, TileCache::kSide, HeightOf(wanted));
   const auto [first, last] = TileCache::Touched(wanted);
-  const auto count = static_cast<std::size_t>((last.row - first.row + 1) * (last.column - first.column + 1));
+  const auto count = static_cast<std::size_t>(last.row - first.row + 1) *
+                     static_cast<std::size_t>(last.column - first.column + 1);
   if (count > tiles_.Capacity()) return false;
   RECT page = painter_.Transform().PageOf(Current());
   InflateRect(&page, TileCache::kSide, TileCache::kSide);

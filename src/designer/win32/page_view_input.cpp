@@ -112,7 +112,7 @@ void PageView::Wheel(WPARAM wide) {
     ScreenToClient(Handle(), &mouse);
     return canvas.ZoomBy(delta > 0 ? 1 : -1, ToPage(mouse));
   }
-  const int step = static_cast<int>(kWheelTwips * delta / WHEEL_DELTA / canvas.Zoom());
+  const int step = static_cast<int>(kWheelTwips * delta / (WHEEL_DELTA * canvas.Zoom()));
   if (LOWORD(wide) & MK_SHIFT) return canvas.ScrollTo(canvas.Horizontal() - step, canvas.Vertical());
   canvas.ScrollTo(canvas.Horizontal(), canvas.Vertical() - step);
 }

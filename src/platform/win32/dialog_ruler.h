@@ -20,6 +20,7 @@ class DialogRuler {
   explicit DialogRuler(HFONT font);
   DialogRuler(const DialogRuler&) = delete;
   DialogRuler& operator=(const DialogRuler&) = delete;
+  ~DialogRuler() = default;
 
   [[nodiscard]] int Across(int dialogUnits) const { return MulDiv(dialogUnits, unitX_, 4); }
   [[nodiscard]] int Down(int dialogUnits) const { return MulDiv(dialogUnits, unitY_, 8); }

@@ -10,7 +10,7 @@ constexpr std::size_t kLongestPlainPath = MAX_PATH - 13;
 }  // namespace
 
 std::u16string AbsolutePath(std::u16string_view path) {
-  const std::u16string given(path);
+  std::u16string given(path);
   std::u16string full(given.size() + MAX_PATH, u'\0');
   DWORD length = GetFullPathNameW(Wide(given), static_cast<DWORD>(full.size()), WideBuffer(full), nullptr);
   if (length > full.size()) {
