@@ -25,13 +25,15 @@ void AskForPortrait(DEVMODEW& mode) {
 }
 
 std::u16string PortOf(HANDLE printer) {
-  DWORD needed = 0;
-  GetPrinterW(printer, 2, nullptr, 0, &needed);
-  std::vector<std::byte> buffer(std::max<std::size_t>(needed, sizeof(PRINTER_INFO_2W)));
-  if (!GetPrinterW(printer, 2, reinterpret_cast<BYTE*>(buffer.data()), static_cast<DWORD>(buffer.size()),
-                   &needed))
-    return {};
-  return Text(reinterpret_cast<const PRINTER_INFO_2W*>(buffer.data())->pPortName);
+  constexpr DWORD kRoom = 8192;  // enough for most, so that one call does
+  DWORD needed = kRoom;
+  for (int attempt = 0; attempt < 2; ++attempt) {
+    std::vector<std::byte> buffer(needed);
+    if (GetPrinterW(printer, 2, reinterpret_cast<BYTE*>(buffer.data()), static_cast<DWORD>(buffer.size()),
+                    &needed))
+      return Text(reinterpret_cast<const PRINTER_INFO_2W*>(buffer.data())->pPortName);
+  }
+  return {};
 }
 
 // One list of what a driver can do; empty when it does not say.
@@ -68,7 +70,8 @@ std::optional<std::int16_t> CodeOfSize(const Paper& paper, const std::vector<Pri
 
 PrintSettings::PrintSettings(const std::u16string& deviceName) : deviceName_(deviceName) {
   if (!OpenPrinterW(WideBuffer(deviceName_), printer_.Receive(), nullptr)) Throw(ErrorNumber::PrinterError);
-  mode_ = Completed(nullptr);
+  usersOwn_ = Completed(nullptr);
+  mode_ = usersOwn_;
 }
 
 std::vector<std::byte> PrintSettings::Completed(DEVMODEW* changed) const {
@@ -124,6 +127,7 @@ std::vector<PrinterPaper> PrintSettings::Papers() const {
 }
 
 void PrintSettings::Choose(const Paper& paper) {
+  mode_ = usersOwn_;
   if (paper.code > 0 && Accepts(paper.code, false)) return;
   const std::optional<std::int16_t> own = CodeOfSize(paper, Papers());
   if (own && Accepts(*own, true)) return;

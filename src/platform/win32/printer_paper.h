@@ -27,13 +27,14 @@ struct PrinterPaper {
 [[nodiscard]] std::optional<std::int16_t> CodeOfSize(const Paper& paper,
                                                      const std::vector<PrinterPaper>& papers);
 
-// The settings that a print job on one printer begins with. A new object has the user's own.
+// The settings that a print job on one printer begins with: the user's own, until a paper is chosen.
 class PrintSettings {
  public:
   explicit PrintSettings(const std::u16string& deviceName);
 
-  // In this order until the driver accepts: the paper's code, a paper of the printer chosen by CodeOfSize,
-  // the width and height as they are. Sizes are meant upright, so all but the code ask for portrait.
+  // The user's own with another paper, in this order until the driver accepts: the paper's code, a paper of
+  // the printer chosen by CodeOfSize, the width and height as they are. Sizes are meant upright, so all but
+  // the code ask for portrait.
   void Choose(const Paper& paper);
   // The paper of that code and no other; false when the driver refuses it.
   [[nodiscard]] bool Take(std::int16_t code) { return Accepts(code, false); }
@@ -48,7 +49,8 @@ class PrintSettings {
 
   std::u16string deviceName_;
   OwnedPrinter printer_;
-  std::vector<std::byte> mode_;  // a DEVMODEW and the driver's own data behind it
+  std::vector<std::byte> usersOwn_;  // a DEVMODEW and the driver's own data behind it
+  std::vector<std::byte> mode_;      // likewise
 };
 
 }  // namespace qm::platform::win32

@@ -84,7 +84,6 @@ void GdiPrinterSurface::EndDoc() {
 void GdiPrinterSurface::SetPaper(const Paper& paper) {
   if (inJob_) Throw(ErrorNumber::PrinterError);
   if (paperChosen_ && SamePaper(paper, paper_)) return;
-  settings_ = PrintSettings(deviceName_);
   settings_.Choose(paper);
   if (!ResetDCW(dc_.Get(), &settings_.Mode())) Throw(ErrorNumber::PrinterError);
   paper_ = paper;

@@ -12,10 +12,11 @@
 namespace qm::platform::win32 {
 namespace {
 
-// The list can grow between asking for its size and asking for the list.
+// Asked for with room enough for most machines; the list can grow between two calls.
 std::vector<std::byte> PrinterList(DWORD& count) {
   constexpr DWORD kWhich = PRINTER_ENUM_LOCAL | PRINTER_ENUM_CONNECTIONS;
-  std::vector<std::byte> buffer;
+  constexpr std::size_t kRoom = 8192;
+  std::vector<std::byte> buffer(kRoom);
   for (int attempt = 0; attempt < 5; ++attempt) {
     DWORD needed = 0;
     count = 0;
@@ -69,9 +70,8 @@ std::vector<std::u16string> Win32Printers::DeviceNames() {
 }
 
 std::unique_ptr<PrinterSurface> Win32Printers::Open(std::u16string_view deviceName) {
-  // A list asked for beforehand makes Wine read its printers; on Windows it costs next to nothing.
-  DWORD count = 0;
-  (void)PrinterList(count);
+  // A list asked for beforehand, once in a process, makes Wine read its printers.
+  [[maybe_unused]] static const std::vector<std::u16string> kRead = DeviceNames();
   return std::make_unique<GdiPrinterSurface>(std::u16string(deviceName));
 }
 
