@@ -6,7 +6,10 @@ void RunModal(ModalWindow& window) {
   while (!window.Closed()) {
     MSG message{};
     if (!PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE)) {
-      if (!window.Idle()) WaitMessage();
+      // Messages that are sent are dealt with in between and never come out of the queue: one may have closed
+      // the window, and each has to end the waiting.
+      if (!window.Closed() && !window.Idle())
+        MsgWaitForMultipleObjectsEx(0, nullptr, INFINITE, QS_ALLINPUT, MWMO_INPUTAVAILABLE);
       continue;
     }
     if (message.message == WM_QUIT) {

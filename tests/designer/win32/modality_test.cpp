@@ -2,6 +2,7 @@
 
 #include <gmock/gmock.h>
 
+#include "designer/win32/modal.h"
 #include "platform/win32/module.h"
 #include "runtime/error.h"
 #include "tests/designer/win32/clerk.h"
@@ -85,6 +86,36 @@ TEST(Modality, ASecondShowWhileItIsOpenIsError400) {
   EXPECT_EQ(number, 400);
   EXPECT_EQ(description, u"El formulario ya se está mostrando; no se puede mostrar como modal");
   EXPECT_NO_THROW(RequireNotShown());
+}
+
+struct IdleWindow : ModalWindow {
+  std::atomic<bool> closed = false;
+  std::atomic<bool> waiting = false;
+  [[nodiscard]] bool Closed() const override { return closed; }
+  bool Translate(MSG&) override { return false; }
+  bool Idle() override {
+    waiting = true;
+    return false;
+  }
+  void ProgramEnds() override { closed = true; }
+};
+
+// As by programs that help people to use others: what is sent does not come out of the queue.
+TEST(Modality, EndsWhenAMessageThatWasSentHasClosedTheWindow) {
+  IdleWindow window;
+  const HostWindow host([&] { window.closed = true; });
+  std::atomic<bool> ended = false;
+  bool byItself = false;
+  std::thread helper([&, thread = GetCurrentThreadId()] {
+    (void)WaitUntil([&] { return window.waiting.load(); });
+    SendMessageW(host.Get(), HostWindow::kDo, 0, 0);
+    byItself = WaitUntil([&] { return ended.load(); });
+    PostThreadMessageW(thread, WM_NULL, 0, 0);
+  });
+  RunModal(window);
+  ended = true;
+  helper.join();
+  EXPECT_TRUE(byItself);
 }
 
 TEST(Modality, TheEndOfTheProgramClosesItAndIsPassedOn) {
