@@ -3,6 +3,7 @@
 #include "platform/win32/folders.h"
 #include "tests/platform/win32/expect_error.h"
 #include "tests/platform/win32/scratch_folder.h"
+#include "tests/platform/win32/thread_windows.h"
 
 namespace qm::platform::win32 {
 namespace {
@@ -20,6 +21,12 @@ struct OtherPrograms : testing::Test {
     const std::u16string built = Win32Folders().ComponentFolder() + u"\\sender.exe";
     EXPECT_TRUE(CopyFileW(Wide(built), Wide(program), FALSE));
   }
+  // A program that still runs cannot be removed.
+  ~OtherPrograms() override {
+    EXPECT_TRUE(WaitUntil([&] { return DeleteFileW(Wide(program)) != FALSE; }));
+  }
+  OtherPrograms(const OtherPrograms&) = delete;
+  OtherPrograms& operator=(const OtherPrograms&) = delete;
 
   std::optional<std::string> Log() { return files.Read(scratch.File(u"mi programa y eñe.log")); }
   std::string LogWhenWritten() {
