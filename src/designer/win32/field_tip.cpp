@@ -1,24 +1,17 @@
 #include "designer/win32/field_tip.h"
 
-#include "platform/win32/errors.h"
-#include "platform/win32/module.h"
+#include "designer/win32/tool_tips.h"
 #include "platform/win32/wide.h"
-
-#include <commctrl.h>
 
 namespace qm::designer::win32 {
 namespace {
 
 constexpr int kWidest = 400;  // pixels; longer captions are wrapped
 
-TTTOOLINFOW ToolOf(HWND view, const std::u16string& text, const RECT& area) {
-  TTTOOLINFOW tool{};
-  tool.cbSize = TTTOOLINFOW_V1_SIZE;  // which every version of the control takes
-  tool.uFlags = TTF_SUBCLASS;
-  tool.hwnd = view;
+TTTOOLINFOW FieldTool(HWND view, const std::u16string& text, const RECT& area) {
+  TTTOOLINFOW tool = ToolOf(view, platform::win32::Wide(text));
   tool.uId = 1;
   tool.rect = area;
-  tool.lpszText = const_cast<wchar_t*>(platform::win32::Wide(text));
   return tool;
 }
 
@@ -26,10 +19,8 @@ TTTOOLINFOW ToolOf(HWND view, const std::u16string& text, const RECT& area) {
 
 void FieldTip::Create(HWND view) {
   view_ = view;
-  tips_ = CreateWindowExW(WS_EX_TOPMOST, TOOLTIPS_CLASSW, nullptr, WS_POPUP | TTS_NOPREFIX | TTS_ALWAYSTIP, 0,
-                          0, 0, 0, view, nullptr, platform::win32::ThisModule(), nullptr);
-  if (!tips_) platform::win32::Throw(runtime::ErrorNumber::OutOfMemory);
-  const TTTOOLINFOW tool = ToolOf(view_, text_, area_);
+  tips_ = NewToolTips(view);
+  const TTTOOLINFOW tool = FieldTool(view_, text_, area_);
   SendMessageW(tips_, TTM_ADDTOOLW, 0, reinterpret_cast<LPARAM>(&tool));
   SendMessageW(tips_, TTM_SETMAXTIPWIDTH, 0, kWidest);
 }
@@ -39,7 +30,7 @@ void FieldTip::Follow(const std::u16string& text, const RECT& area) {
   if (text == text_ && EqualRect(&shownFor, &area_)) return;
   text_ = text;
   area_ = shownFor;
-  const TTTOOLINFOW tool = ToolOf(view_, text_, area_);
+  const TTTOOLINFOW tool = FieldTool(view_, text_, area_);
   SendMessageW(tips_, TTM_POP, 0, 0);
   SendMessageW(tips_, TTM_NEWTOOLRECTW, 0, reinterpret_cast<LPARAM>(&tool));
   SendMessageW(tips_, TTM_UPDATETIPTEXTW, 0, reinterpret_cast<LPARAM>(&tool));

@@ -1,12 +1,11 @@
 #include "designer/win32/form_controls.h"
 
-#include <commctrl.h>
-
 #include <algorithm>
 #include <utility>
 
 #include "designer/win32/palette.h"
 #include "designer/win32/tool_button.h"
+#include "designer/win32/tool_tips.h"
 #include "designer/win32/window.h"
 #include "platform/win32/errors.h"
 #include "platform/win32/module.h"
@@ -68,12 +67,9 @@ HWND FormControls::Add(const wchar_t* windowClass, const wchar_t* text, DWORD st
 }
 
 void FormControls::AddTip(int id, const wchar_t* text) {
-  TTTOOLINFOW tool{};
-  tool.cbSize = TTTOOLINFOW_V1_SIZE;  // which every version of the control takes
-  tool.uFlags = TTF_IDISHWND | TTF_SUBCLASS;
-  tool.hwnd = form_;
+  TTTOOLINFOW tool = ToolOf(form_, text);
+  tool.uFlags |= TTF_IDISHWND;
   tool.uId = reinterpret_cast<UINT_PTR>(Get(id));
-  tool.lpszText = const_cast<wchar_t*>(text);
   SendMessageW(tips_, TTM_ADDTOOLW, 0, reinterpret_cast<LPARAM>(&tool));
 }
 
@@ -105,8 +101,7 @@ void FormControls::Create(const Metrics& metrics) {
   Add(WC_SCROLLBARW, L"", SBS_HORZ, kBarHor);
   Add(WC_SCROLLBARW, L"", SBS_VERT, kBarVer);
 
-  tips_ = CreateWindowExW(WS_EX_TOPMOST, TOOLTIPS_CLASSW, nullptr, WS_POPUP | TTS_NOPREFIX | TTS_ALWAYSTIP, 0,
-                          0, 0, 0, form_, nullptr, ThisModule(), nullptr);
+  tips_ = NewToolTips(form_);
   AddTip(kGrabar, L"Grabar");
   AddTip(kImprimirPrueba, L"Imprimir prueba");
   AddTip(kImpresoras, L"Impresora");
