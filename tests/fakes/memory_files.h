@@ -25,6 +25,7 @@ class MemoryFiles : public platform::Files {
   std::vector<Replacement> replacements;                // the successful ones, in order
   std::optional<runtime::ErrorNumber> failReplaceWith;  // then nothing is written
   std::optional<runtime::ErrorNumber> failReadWith;
+  std::u16string fullFor;                        // this file finds no room on the disk
   std::set<std::u16string, std::less<>> locked;  // for appending
   std::optional<runtime::DateTime> lastChange;   // of every file
   std::u16string scratchFolder = u"C:\\Temp\\";
@@ -44,6 +45,7 @@ class MemoryFiles : public platform::Files {
 
   void Replace(std::u16string_view path, std::string_view bytes) override {
     if (failReplaceWith) throw runtime::RuntimeError(*failReplaceWith);
+    if (path == fullFor) throw runtime::RuntimeError(runtime::ErrorNumber::DiskFull);
     contents.insert_or_assign(std::u16string(path), std::string(bytes));
     replacements.push_back({std::u16string(path), std::string(bytes)});
   }

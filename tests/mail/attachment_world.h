@@ -13,20 +13,8 @@
 
 namespace qm::mail {
 
-// Files of which one finds no room on the disk.
-class NearlyFullDisk : public fakes::MemoryFiles {
- public:
-  std::u16string fullFor;
-
-  void Replace(std::u16string_view path, std::string_view bytes) override {
-    if (path == fullFor) throw runtime::RuntimeError(runtime::ErrorNumber::DiskFull);
-    MemoryFiles::Replace(path, bytes);
-  }
-};
-
-struct AttachmentWorld : MailFakes<NearlyFullDisk> {
+struct AttachmentWorld : MailFakes {
   explicit AttachmentWorld(const std::string& attributes = {}) {
-    modelFile.SetName(u"C:\\Modelos\\fact.xml");
     files.contents[modelFile.name] =
         "<Modelos><Modelo Numero=\"1\" Width=\"3000\" Height=\"3000\" " + attributes +
         "><Campo><Descripcion>#Se\xF1or</Descripcion><Top>100</Top><Left>1000</Left><Width>1500</Width>"
@@ -48,7 +36,6 @@ struct AttachmentWorld : MailFakes<NearlyFullDisk> {
     });
   }
 
-  data::PrintJob job;
   fakes::RecordedArchiver archiver;
   platform::ZipArchiver realArchiver{files};
   bool useRealArchiver = false;

@@ -50,7 +50,7 @@ class SnapshotArchiver : public platform::Archiver {
 
 using ProfileTexts = std::vector<std::pair<ProfileField, std::u16string>>;
 
-struct MailWorld : MailFakes<> {
+struct MailWorld : MailFakes {
   SnapshotArchiver archiver{files, folders};
   recordfile::FileRecordStore profiles{files, kProfileTable, recordfile::ParseFieldList(kProfileFieldList)};
   Environment environment{printing, folders, processes, archiver, pages, profiles, random};

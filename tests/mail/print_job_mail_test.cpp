@@ -16,7 +16,6 @@ using tests::ReversedPassword;
 class SendingAPrintJob : public testing::Test, protected MailWorld {
  protected:
   SendingAPrintJob() {
-    modelFile.SetName(u"C:\\Modelos\\fact.xml");
     files.contents[modelFile.name] =
         "<Modelos><Modelo Numero=\"1\" Width=\"3000\" "
         "Height=\"3000\"><Campo><Descripcion>#Total</Descripcion>"
@@ -60,7 +59,6 @@ class SendingAPrintJob : public testing::Test, protected MailWorld {
     return {};
   }
 
-  data::PrintJob job;
   std::u16string usedFolder_;
 };
 

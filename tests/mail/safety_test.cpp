@@ -158,7 +158,6 @@ TEST_F(HostileMessages, ShowThePasswordNowhereInPlainText) {
 }
 
 TEST_F(HostileMessages, OfPrintJobsAreRefusedWholeAsWell) {
-  data::PrintJob job;
   job.mail.email = u"jose@cliente.es";
   job.mail.rutaEmail = u"C:\\Correo\"\\";
   std::u16string folder = u"C:\\Docs\\";

@@ -12,8 +12,6 @@ using ::testing::ElementsAre;
 using ::testing::Pair;
 using ::testing::SizeIs;
 
-constexpr wchar_t kMenuClass[] = L"#32768";
-
 TEST(NamesOfControls, TellWhatEveryControlThatTakesTheKeyboardIsFor) {
   WindowWorld world;
   std::map<int, std::u16string> names;
@@ -59,26 +57,15 @@ struct OneField : WindowWorld {
   OneField() { Keep(ModelFile(Campo("NOMBRE", 1500, 1500, 1500, 300))); }
 };
 
-// The first entry of the menu that opens, which is closed again; a sub-menu is -1.
-int FirstOfTheMenu(const Clerk& clerk) {
-  const HWND popUp = clerk.WaitFor(kMenuClass, nullptr);
-  if (!popUp) return 0;
-  const auto menu = reinterpret_cast<HMENU>(SendMessageW(popUp, MN_GETHMENU, 0, 0));
-  const int first = static_cast<int>(GetMenuItemID(menu, 0));
-  SendMessageW(clerk.Form(), WM_CANCELMODE, 0, 0);
-  EXPECT_TRUE(WaitUntil([&] { return !IsWindow(popUp) || !IsWindowVisible(popUp); }));
-  return first;
-}
-
 TEST(MenusByTheKeyboard, TheMenuKeyOpensEditarForASelectedFieldAndElseInsertar) {
   OneField world;
   std::vector<int> first;
   EXPECT_TRUE(Visit(world, [&](Clerk& clerk) {
     PostMessageW(clerk.Page(), WM_CONTEXTMENU, reinterpret_cast<WPARAM>(clerk.Page()), -1);
-    first.push_back(FirstOfTheMenu(clerk));
+    first.push_back(clerk.FirstOfTheMenu());
     clerk.Key(VK_TAB);
     PostMessageW(clerk.Page(), WM_CONTEXTMENU, reinterpret_cast<WPARAM>(clerk.Page()), -1);
-    first.push_back(FirstOfTheMenu(clerk));
+    first.push_back(clerk.FirstOfTheMenu());
   }));
   EXPECT_THAT(first, ElementsAre(-1, static_cast<int>(kEliminar)));
   EXPECT_THAT(world.dialogs.askedConfirmations, SizeIs(0)) << "a menu alone is no change";
@@ -91,7 +78,7 @@ TEST(MenusByTheKeyboard, ShiftF10OpensEditarForTheSelectedField) {
     clerk.Key(VK_TAB);
     const HeldKey shift(clerk, VK_SHIFT, VK_LSHIFT);
     PostMessageW(clerk.Page(), WM_SYSKEYDOWN, VK_F10, 1);
-    first = FirstOfTheMenu(clerk);
+    first = clerk.FirstOfTheMenu();
   }));
   EXPECT_EQ(first, kEliminar);
 }

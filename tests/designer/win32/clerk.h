@@ -46,6 +46,15 @@ class Clerk {
   [[nodiscard]] HWND WaitFor(const wchar_t* className, const wchar_t* title) const {
     return WaitForWindow(host_, className, title);
   }
+  // The first entry of the menu that opens, which is closed again; a sub-menu is -1, no menu at all 0.
+  [[nodiscard]] int FirstOfTheMenu() const {
+    const HWND popUp = WaitFor(L"#32768", nullptr);
+    if (!popUp) return 0;
+    const auto menu = reinterpret_cast<HMENU>(SendMessageW(popUp, MN_GETHMENU, 0, 0));
+    const int first = static_cast<int>(GetMenuItemID(menu, 0));
+    SendMessageW(form_, WM_CANCELMODE, 0, 0);
+    return WaitUntil([&] { return !IsWindow(popUp) || !IsWindowVisible(popUp); }) ? first : 0;
+  }
 
   void Choose(int command) const { SendMessageW(form_, WM_COMMAND, static_cast<WPARAM>(command), 0); }
   void Click(int id) const { SendMessageW(Control(id), BM_CLICK, 0, 0); }

@@ -52,9 +52,8 @@ struct DamagedFileAtTheScreen : ::testing::Test, WindowWorld {
 };
 
 constexpr char16_t kQuestion[] =
-    u"El archivo de modelos está dañado y no se puede leer. ¿Desea recuperar su última copia buena? El "
-    u"archivo "
-    u"dañado se conservará a su lado, con la terminación .danado.";
+    u"El archivo de modelos está dañado y no se puede leer. ¿Desea recuperar su última copia buena? "
+    u"El archivo dañado se conservará a su lado, con la terminación .danado.";
 
 TEST_F(DamagedFileAtTheScreen, IsReplacedByItsCopyAndShownWhenTheAnswerIsYes) {
   OpenWhile([](HWND box) { WindowDriver::Click(box, IDYES); });

@@ -3,7 +3,7 @@
 #include "platform/win32/folders.h"
 #include "tests/platform/win32/expect_error.h"
 #include "tests/platform/win32/scratch_folder.h"
-#include "tests/platform/win32/thread_windows.h"
+#include "tests/platform/win32/wait_until.h"
 
 namespace qm::platform::win32 {
 namespace {

@@ -2,20 +2,11 @@
 // The windows of one thread. Other programs of the desktop may show windows of the same class and title at
 // the same time, another run of the same test among them.
 
-#include <functional>
-
-#include <windows.h>
+#include "tests/platform/win32/wait_until.h"
 
 namespace qm::platform::win32 {
 
 inline constexpr wchar_t kDialogClass[] = L"#32770";
-
-// Ten seconds at most; false when the condition never held.
-inline bool WaitUntil(const std::function<bool()>& condition) {
-  for (int attempt = 0; attempt < 2000; ++attempt, Sleep(5))
-    if (condition()) return true;
-  return false;
-}
 
 // A visible one, of any title when there is none to look for; null when there is none.
 inline HWND VisibleWindow(DWORD thread, const wchar_t* className, const wchar_t* title = nullptr,
