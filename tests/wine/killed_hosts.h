@@ -28,7 +28,8 @@ inline int SweepBeside(const std::u16string& path) {
   return count;
 }
 
-// Starts a host, lets it write for some milliseconds, kills it. False when it ended by itself.
+// Starts a host, lets it write for some milliseconds, kills it. False, with the reason printed, when it did
+// not start or ended by itself.
 inline bool KillHost(const std::u16string& arguments, DWORD milliseconds) {
   using platform::win32::WideBuffer;
   std::u16string self(MAX_PATH * 2, u'\0');
@@ -39,9 +40,12 @@ inline bool KillHost(const std::u16string& arguments, DWORD milliseconds) {
   PROCESS_INFORMATION host{};
   if (!CreateProcessW(nullptr, WideBuffer(command), nullptr, nullptr, FALSE, 0, nullptr, nullptr, &startup,
                       &host)) {
+    std::printf("a host did not start: %lu\n", GetLastError());
     return false;
   }
   const bool alive = WaitForSingleObject(host.hProcess, milliseconds) == WAIT_TIMEOUT;
+  DWORD code = 0;
+  if (!alive && GetExitCodeProcess(host.hProcess, &code)) std::printf("a host ended with %#lx\n", code);
   TerminateProcess(host.hProcess, 99);
   WaitForSingleObject(host.hProcess, INFINITE);
   CloseHandle(host.hThread);

@@ -41,8 +41,7 @@ int Add(const std::u16string& archive, const std::u16string& folder) {
     const std::u16string changing = folder + (large ? u"\\grande\\dato.bin" : u"\\chico\\dato.bin");
     const auto result = archiver.Add(archive, {folder + u"\\fijo.txt", changing});
     if (result != qm::platform::ZipResult::Done) {
-      std::printf("result %d\n", static_cast<int>(result));
-      return 1;
+      return 100 + static_cast<int>(result);
     }
   }
 }
